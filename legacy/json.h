@@ -1,0 +1,67 @@
+// The reader of the older edition's JSON. It takes everything that is well-formed and, because
+// those files were always read this way, some things that are not: see `ParseValue`.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessaline {
+
+enum class JsonKind : std::int32_t {
+    kNull = 0,
+    kBoolean = 1,
+    kNumber = 2,
+    kString = 3,
+    kObject = 4,
+    kArray = 5,
+};
+
+/// One value with everything in it. Only the field that belongs to its kind is filled.
+struct JsonValue {
+    JsonKind kind = JsonKind::kNull;
+    bool boolean = false;
+    double number = 0.0;
+    std::wstring text;
+    std::map<std::wstring, JsonValue, std::less<>> members;  ///< by code units
+    std::vector<JsonValue> items;
+
+    // Not every library's map says that it moves without throwing. A growing vector would then
+    // copy whole trees, once for every level above them.
+    JsonValue() = default;
+    JsonValue(const JsonValue&) = default;
+    JsonValue(JsonValue&&) noexcept = default;
+    JsonValue& operator=(const JsonValue&) = default;
+    JsonValue& operator=(JsonValue&&) noexcept = default;
+    ~JsonValue() = default;
+};
+
+/// A place in a text. The text must outlive the cursor.
+struct JsonCursor {
+    std::wstring_view text;
+    std::size_t position = 0;  ///< in code units
+};
+
+/// Reads the value at the cursor, after white space, and steps past it; what follows is left
+/// alone. On false the text is no such value, ends too early or nests deeper than 512 levels, and
+/// `value` is only partly filled.
+///
+/// Lenient where the older edition was: white space is whatever the C library calls so; nothing
+/// needs to stand between a literal and what follows; a number is any run of digits, signs, points
+/// and exponent letters, worth what its front is worth ("1-2" is 1, "-" is 0); strings may hold
+/// control characters; an unknown escape stands for its character; "\u" takes any four characters,
+/// those that are no hexadecimal digits as 0, and loses its "u" when the text has fewer left;
+/// surrogates need no partner; of equal keys the first counts.
+[[nodiscard]] bool ParseValue(JsonCursor& cursor, JsonValue& value);
+
+/// The member called exactly `key`; a null value when there is none or `value` is no object.
+[[nodiscard]] const JsonValue& Member(const JsonValue& value, std::wstring_view key);
+
+/// The text of a string, empty for every other kind.
+[[nodiscard]] const std::wstring& AsString(const JsonValue& value);
+
+}  // namespace tessaline

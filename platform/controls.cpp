@@ -1,0 +1,107 @@
+#include "platform/controls.h"
+
+#include <array>
+#include <cwchar>
+
+#include "platform/scale.h"
+#include "platform/theme.h"
+#include "platform/window.h"
+
+namespace tessaline {
+namespace {
+
+constexpr std::size_t kEntryLength = 256;
+
+struct ControlParts {
+    const wchar_t* className;
+    const wchar_t* text;
+    DWORD style;
+    DWORD extendedStyle;
+    HFONT font;
+};
+
+HWND MakeControl(HWND parent, int id, const Box& box, const ControlParts& parts) {
+    const HWND control = CreateWindowExW(
+        parts.extendedStyle, parts.className, parts.text, WS_CHILD | WS_VISIBLE | parts.style,
+        Scale(box.x), Scale(box.y), Scale(box.width), Scale(box.height), parent,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ProgramInstance(), nullptr);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(parts.font), TRUE);
+    return control;
+}
+
+std::wstring EntryText(HWND choice, WPARAM index) {
+    // CB_GETLBTEXT writes as much as the entry holds: a longer one must not reach the buffer.
+    const LRESULT length = SendMessageW(choice, CB_GETLBTEXTLEN, index, 0);
+    if (length < 0 || static_cast<std::size_t>(length) >= kEntryLength) return {};
+    std::array<wchar_t, kEntryLength> text{};
+    SendMessageW(choice, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+    return text.data();
+}
+
+}  // namespace
+
+void PlaceControl(HWND control, const Box& box) {
+    MoveWindow(control, Scale(box.x), Scale(box.y), Scale(box.width), Scale(box.height), TRUE);
+}
+
+HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font, DWORD extraStyle) {
+    const HFONT used = font != nullptr ? font : CurrentTheme().uiFont.Get();
+    return MakeControl(parent, 0, box, {L"STATIC", text, extraStyle, 0, used});
+}
+
+HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle) {
+    const DWORD style = WS_TABSTOP | ES_AUTOHSCROLL | extraStyle;
+    return MakeControl(parent, id, box,
+                       {L"EDIT", L"", style, WS_EX_CLIENTEDGE, CurrentTheme().uiFont.Get()});
+}
+
+HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries) {
+    const HWND choice = MakeControl(parent, id, {box.x, box.y, box.width, kChoiceHeight},
+                                    {L"ComboBox", L"", WS_TABSTOP | CBS_DROPDOWNLIST,
+                                     WS_EX_CLIENTEDGE, CurrentTheme().uiFont.Get()});
+    for (const wchar_t* entry : entries) {
+        SendMessageW(choice, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+    }
+    SendMessageW(choice, CB_SETCURSEL, 0, 0);
+    return choice;
+}
+
+HWND MakeButton(HWND parent, int id, const wchar_t* text, const Box& box, bool emphasised) {
+    const Theme& theme = CurrentTheme();
+    const HFONT font = emphasised ? theme.boldFont.Get() : theme.uiFont.Get();
+    return MakeControl(parent, id, box, {L"BUTTON", text, WS_TABSTOP, 0, font});
+}
+
+HWND MakeCheckBox(HWND parent, int id, const wchar_t* text, const Box& box) {
+    return MakeControl(
+        parent, id, box,
+        {L"BUTTON", text, WS_TABSTOP | BS_AUTOCHECKBOX, 0, CurrentTheme().labelFont.Get()});
+}
+
+std::wstring WindowText(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
+    // The length may be too large an estimate; what is copied decides.
+    const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+void SelectChoice(HWND choice, const std::wstring& text) {
+    const LRESULT count = SendMessageW(choice, CB_GETCOUNT, 0, 0);
+    LRESULT selected = 0;
+    for (LRESULT index = 0; index < count; ++index) {
+        const std::wstring entry = EntryText(choice, static_cast<WPARAM>(index));
+        if (CompareStringOrdinal(entry.c_str(), -1, text.c_str(), -1, TRUE) != CSTR_EQUAL)
+            continue;
+        selected = index;
+        break;
+    }
+    SendMessageW(choice, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);
+}
+
+std::wstring ChoiceText(HWND choice) {
+    const LRESULT index = SendMessageW(choice, CB_GETCURSEL, 0, 0);
+    return index == CB_ERR ? std::wstring() : EntryText(choice, static_cast<WPARAM>(index));
+}
+
+}  // namespace tessaline

@@ -1,0 +1,53 @@
+// The makers of child controls and the reading and writing of their texts. Places are in pixels at
+// 96 DPI relative to the parent; a new control belongs to its parent and has its font.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <string>
+
+namespace tessaline {
+
+/// A place in pixels at 96 DPI.
+struct Box {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// A combo box's height is that of its opened list.
+inline constexpr int kChoiceHeight = 220;
+
+using Entries = std::span<const wchar_t* const>;
+
+/// Moves a child to a place given at 96 DPI.
+void PlaceControl(HWND control, const Box& box);
+
+/// A static text; the ordinary font when none is given.
+HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font = nullptr,
+               DWORD extraStyle = 0);
+
+/// A framed edit that scrolls sideways.
+HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle = 0);
+
+/// A drop-down list with its first entry selected. The box's height is ignored.
+HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries);
+
+/// A push button.
+HWND MakeButton(HWND parent, int id, const wchar_t* text, const Box& box, bool emphasised = false);
+
+/// A check box that toggles itself, in the font of labels.
+HWND MakeCheckBox(HWND parent, int id, const wchar_t* text, const Box& box);
+
+/// The whole text of a window, as it stands.
+[[nodiscard]] std::wstring WindowText(HWND window);
+
+/// Selects the first entry equal to `text`, ignoring case; the first entry when none is.
+void SelectChoice(HWND choice, const std::wstring& text);
+
+/// The selected entry, or empty when none is selected.
+[[nodiscard]] std::wstring ChoiceText(HWND choice);
+
+}  // namespace tessaline

@@ -1,0 +1,80 @@
+#include "platform/files.h"
+
+#include <algorithm>
+
+#include "platform/handles.h"
+
+namespace tessaline {
+namespace {
+
+// A bound on what a damaged or foreign file can make the program allocate.
+constexpr LONGLONG kLargestFile = 256LL * 1024 * 1024;
+
+FileOwner OpenFile(const std::wstring& path, DWORD access, DWORD disposition) {
+    // Nothing is locked against other programs, as with a plain C stream.
+    const HANDLE file =
+        CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return FileOwner(file == INVALID_HANDLE_VALUE ? nullptr : file);
+}
+
+bool IsFolder(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::wstring ParentFolder(const std::wstring& path) {
+    const std::size_t slash = path.find_last_of(L"\\/");
+    return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
+}
+
+}  // namespace
+
+Bytes ReadFileBytes(const std::wstring& path) {
+    const FileOwner file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+    LARGE_INTEGER size{};
+    if (!file || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kLargestFile) return {};
+    Bytes bytes(static_cast<std::size_t>(size.QuadPart));
+    DWORD read = 0;
+    const DWORD wanted = static_cast<DWORD>(bytes.size());
+    // A file that shrank since its size was taken gives fewer bytes; a read error gives none.
+    if (!ReadFile(file.Get(), bytes.data(), wanted, &read, nullptr)) return {};
+    bytes.resize(read);
+    return bytes;
+}
+
+bool WriteFileBytes(const std::wstring& path, ByteView bytes) {
+    EnsureFolder(ParentFolder(path));
+    const FileOwner file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
+    if (!file) return false;
+    while (!bytes.empty()) {
+        const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
+        DWORD written = 0;
+        if (!WriteFile(file.Get(), bytes.data(), chunk, &written, nullptr) || written == 0) {
+            return false;
+        }
+        bytes = bytes.subspan(written);
+    }
+    // "Saved" is said only when a pulled plug can no longer take it back.
+    return FlushFileBuffers(file.Get()) != 0;
+}
+
+bool EnsureFolder(const std::wstring& path) {
+    if (path.empty() || IsFolder(path)) return true;
+    EnsureFolder(ParentFolder(path));
+    return CreateDirectoryW(path.c_str(), nullptr) != 0 || IsFolder(path);
+}
+
+void ForEachFile(const std::wstring& folder, const std::wstring& pattern,
+                 const std::function<bool(const std::wstring& name)>& visit) {
+    WIN32_FIND_DATAW found{};
+    const HANDLE handle = FindFirstFileW((folder + L"\\" + pattern).c_str(), &found);
+    const FindOwner search(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+    if (!search) return;
+    do {
+        const bool isFile = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+        if (isFile && !visit(found.cFileName)) return;
+    } while (FindNextFileW(search.Get(), &found));
+}
+
+}  // namespace tessaline

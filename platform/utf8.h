@@ -1,0 +1,19 @@
+// Conversion between the record's UTF-16 and the UTF-8 of files, by the platform's own rules: what
+// is ill-formed is replaced by U+FFFD, never refused.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/bytes.h"
+#include "platform/secret_bytes.h"
+
+namespace tessaline {
+
+/// Appends the UTF-8 form of `text` to `bytes`, without a terminator.
+void AppendUtf8(SecretBytes& bytes, std::wstring_view text);
+
+/// The text that `utf8` holds.
+[[nodiscard]] std::wstring FromUtf8(ByteView utf8);
+
+}  // namespace tessaline

@@ -1,0 +1,79 @@
+#include "store/estimate_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "legacy/legacy_file.h"
+#include "model/dates.h"
+#include "model/text.h"
+#include "platform/files.h"
+#include "store/envelope.h"
+#include "store/native_format.h"
+
+namespace tessaline {
+namespace {
+
+constexpr std::array<std::uint8_t, 4> kLegacyMarker = {'G', 'F', 'E', '2'};
+
+bool BeginsWith(ByteView content, ByteView marker) {
+    return content.size() >= marker.size() &&
+           std::equal(marker.begin(), marker.end(), content.begin());
+}
+
+void Stamp(Estimate& estimate) {
+    if (estimate.EstimateId.empty()) estimate.EstimateId = NewEstimateId();
+    if (estimate.RootEstimateId.empty()) estimate.RootEstimateId = estimate.EstimateId;
+    const std::int64_t now = NowSeconds();
+    if (estimate.CreatedOn < 1) estimate.CreatedOn = now;
+    estimate.LastModifiedOn = now;
+}
+
+bool ReadNativeFile(ByteView content, Estimate& estimate, std::wstring& error) {
+    const SecretBytes payload = UnprotectEstimateData(content, error);
+    return !payload.empty() && ReadNativeEstimate(payload, estimate, error);
+}
+
+}  // namespace
+
+EstimateFileKind KindOfEstimateFile(ByteView content) {
+    if (BeginsWith(content, kNativeMarker)) return EstimateFileKind::Native;
+    if (BeginsWith(content, kLegacyMarker)) return EstimateFileKind::Legacy;
+    return EstimateFileKind::Unknown;
+}
+
+std::wstring EstimateFilePath(const LocalStore& store, const std::wstring& estimateId) {
+    return store.EstimatesFolder + L"\\" + CleanFileName(estimateId) + L".gfe";
+}
+
+bool SaveEstimate(const LocalStore& store, Estimate& estimate, std::wstring& path,
+                  std::wstring& error) {
+    Stamp(estimate);
+    path = EstimateFilePath(store, estimate.EstimateId);
+    const Bytes content = ProtectEstimateData(WriteNativeEstimate(estimate), error);
+    if (content.empty()) return false;
+    if (WriteFileBytes(path, content)) return true;
+    error = L"Could not write the estimate file.";
+    return false;
+}
+
+bool LoadEstimateFile(const LocalStore& store, const std::wstring& path, Estimate& estimate,
+                      std::wstring& error) {
+    const Bytes content = ReadFileBytes(path);
+    if (content.empty()) {
+        error = L"Could not read the estimate file.";
+        return false;
+    }
+    switch (KindOfEstimateFile(content)) {
+        case EstimateFileKind::Native:
+            return ReadNativeFile(content, estimate, error);
+        case EstimateFileKind::Legacy:
+            return OpenLegacyEstimateFile(path, store, estimate, error);
+        case EstimateFileKind::Unknown:
+            break;
+    }
+    error = L"Unsupported estimate file format.";
+    return false;
+}
+
+}  // namespace tessaline

@@ -1,0 +1,139 @@
+#include "store/lookup_window.h"
+
+#include <commctrl.h>
+
+#include <span>
+
+#include "model/text.h"
+#include "platform/controls.h"
+#include "platform/list_view.h"
+#include "platform/message_box.h"
+#include "platform/scale.h"
+#include "platform/theme.h"
+#include "platform/window.h"
+
+namespace tessaline {
+namespace {
+
+constexpr wchar_t kLookupClass[] = L"GFE_Lookup";
+
+// The search box and the confirm button share an ID and are told apart by the notification code.
+constexpr int kSearchBox = 1;
+constexpr int kConfirmButton = 1;
+constexpr int kList = 2;
+constexpr int kCancelButton = 2;
+
+struct ModeRow {
+    const wchar_t* confirmText;
+    int confirmWidth;
+    std::span<const ListColumn> (*columns)();
+    LookupRows (*makeRows)(const LookupState&);
+};
+
+// By LookupMode.
+const ModeRow kModes[] = {
+    {L"Use Selected Patient", 170, PatientColumns,
+     [](const LookupState& state) { return MakeLookupRows(state.patients); }},
+    {L"Use Selected Provider", 170, ProviderColumns,
+     [](const LookupState& state) { return MakeLookupRows(state.providers); }},
+    {L"Open Selected", 130, EstimateColumns,
+     [](const LookupState& state) { return MakeLookupRows(state.estimates); }},
+};
+
+const ModeRow& ModeOf(const LookupState& state) {
+    return kModes[static_cast<std::size_t>(state.Mode)];
+}
+
+void AppendRow(const LookupState& state, LPARAM index, const LookupRow& row) {
+    const auto& cells = row.cells;
+    if (state.Mode == LookupMode::kEstimates) {
+        AppendListRow(state.list, index,
+                      {cells[0].c_str(), cells[1].c_str(), cells[2].c_str(), cells[3].c_str(),
+                       cells[4].c_str(), cells[5].c_str()});
+    } else {
+        AppendListRow(state.list, index,
+                      {cells[0].c_str(), cells[1].c_str(), cells[2].c_str(), cells[3].c_str(),
+                       cells[4].c_str()});
+    }
+}
+
+void BuildControls(HWND window, LookupState& state) {
+    const ModeRow& mode = ModeOf(state);
+    state.window = window;
+    state.rows = mode.makeRows(state);
+    MakeLabel(window, L"Search", {20, 18, 90, 18});
+    state.searchBox = MakeEdit(window, kSearchBox, {20, 38, 760, 25});
+    state.list = MakeListView(window, kList, {20, 76, 760, 340}, mode.columns());
+    MakeButton(window, kConfirmButton, mode.confirmText, {20, 435, mode.confirmWidth, 36}, true);
+    MakeButton(window, kCancelButton, L"Cancel", {690, 435, 90, 36});
+    FillLookupList(state);
+    SetFocus(state.searchBox);
+}
+
+void Confirm(LookupState& state) {
+    const int selected = SelectedRowData(state.list);
+    if (selected < 0) {
+        ShowInformation(state.window, L"Select an item first.", L"Lookup");
+        return;
+    }
+    state.Selected = selected;
+    EndModal(state, true);
+}
+
+void HandleCommand(LookupState& state, int id, int notification) {
+    if (id == kCancelButton) EndModal(state, false);
+    if (id == kSearchBox && notification == EN_CHANGE) FillLookupList(state);
+    // Edits send further codes, all above, for their focus and their drawing: those confirm
+    // nothing.
+    if (id == kConfirmButton && notification < EN_SETFOCUS) Confirm(state);
+}
+
+LRESULT HandleLookupMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* const state = WindowState<LookupState>(window, message, lParam);
+    if (state == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+    if (KeepFocus(window, message, wParam)) return 0;
+    switch (message) {
+        case WM_CREATE:
+            BuildControls(window, *state);
+            return 0;
+        case WM_COMMAND:
+            HandleCommand(*state, LOWORD(wParam), HIWORD(wParam));
+            return 0;
+        case WM_NOTIFY: {
+            const auto& notification = *reinterpret_cast<const NMHDR*>(lParam);
+            if (notification.idFrom != kList || notification.code != NM_DBLCLK) break;
+            SendMessageW(window, WM_COMMAND, MAKEWPARAM(kConfirmButton, BN_CLICKED), 0);
+            return 0;
+        }
+        case WM_CLOSE:
+            EndModal(*state, false);
+            return 0;
+        default:
+            break;
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+int ShowLookup(LookupState& state, const wchar_t* title) {
+    RegisterWindowClass(
+        {kLookupClass, GuardedProcedure<HandleLookupMessage>, CurrentTheme().pageBrush.Get()});
+    const HWND window =
+        CreateWindowExW(WS_EX_DLGMODALFRAME, kLookupClass, title,
+                        WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, CW_USEDEFAULT, CW_USEDEFAULT,
+                        Scale(820), Scale(525), state.owner, nullptr, ProgramInstance(), &state);
+    return window != nullptr && RunModal(state) ? kLookupChosen : kLookupCancelled;
+}
+
+void FillLookupList(const LookupState& state) {
+    const std::wstring wanted = ToLower(Trim(WindowText(state.searchBox)));
+    const ListFill fill(state.list, state.rows.size());
+    LPARAM index = 0;
+    for (const LookupRow& row : state.rows) {
+        if (row.searchText.find(wanted) != std::wstring::npos) AppendRow(state, index, row);
+        ++index;
+    }
+}
+
+}  // namespace tessaline

@@ -1,0 +1,186 @@
+#include "store/native_format.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+#include "model/estimate_fields.h"
+#include "platform/utf8.h"
+
+namespace tessaline {
+namespace {
+
+static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
+
+constexpr std::array<std::uint8_t, 4> kMagic = {'G', 'F', 'E', 'D'};
+constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kMostElements = 1000;
+constexpr std::uint32_t kLongestText = 16 * 1024 * 1024;  // bytes
+
+template <typename Record>
+concept HasFields = requires(const Record& record) {
+    FieldsOf(record);
+};
+
+class Writer {
+  public:
+    explicit Writer(SecretBytes& bytes) : bytes_(bytes) {}
+
+    void Put(std::uint32_t number) { PutLittleEndian(number); }
+    void Put(std::int32_t number) { PutLittleEndian(static_cast<std::uint32_t>(number)); }
+    void Put(std::int64_t number) { PutLittleEndian(static_cast<std::uint64_t>(number)); }
+    void Put(double number) { PutLittleEndian(std::bit_cast<std::uint64_t>(number)); }
+    void Put(bool flag) { bytes_.push_back(flag ? 1 : 0); }
+
+    void Put(const std::wstring& text) {
+        const std::size_t start = bytes_.size();
+        Put(std::uint32_t{0});
+        AppendUtf8(bytes_, text);
+        StoreLittleEndian(start, static_cast<std::uint32_t>(bytes_.size() - start - 4));
+    }
+
+    template <typename Element>
+    void Put(const std::vector<Element>& list) {
+        Put(static_cast<std::uint32_t>(list.size()));
+        for (const Element& element : list) Put(element);
+    }
+
+    template <HasFields Record>
+    void Put(const Record& record) {
+        ForEachField(record, [this](const wchar_t*, const auto& value) { this->Put(value); });
+    }
+
+  private:
+    template <typename Unsigned>
+    void PutLittleEndian(Unsigned number) {
+        const std::size_t at = bytes_.size();
+        bytes_.resize(at + sizeof(Unsigned));
+        StoreLittleEndian(at, number);
+    }
+
+    template <typename Unsigned>
+    void StoreLittleEndian(std::size_t at, Unsigned number) {
+        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
+            bytes_[at + i] = static_cast<std::uint8_t>(number >> (8 * i));
+        }
+    }
+
+    SecretBytes& bytes_;
+};
+
+// Walks the payload. A field that runs past the end or a text that is too long makes the payload
+// damaged, which the end of the walk reports: numbers and counts are read on from where they would
+// stand, so that an impossible count is reported as such.
+class Reader {
+  public:
+    explicit Reader(ByteView rest) : rest_(rest) {}
+
+    /// What the user is told; null when all has been read.
+    [[nodiscard]] const wchar_t* Failure() const {
+        if (badCount_ != nullptr) return badCount_;
+        return damaged_ ? L"The estimate file is incomplete or damaged." : nullptr;
+    }
+
+    void Take(std::int32_t& number) { number = static_cast<std::int32_t>(Take<std::uint32_t>()); }
+    void Take(std::int64_t& number) { number = static_cast<std::int64_t>(Take<std::uint64_t>()); }
+    void Take(double& number) { number = std::bit_cast<double>(Take<std::uint64_t>()); }
+    void Take(bool& flag) { flag = Take<std::uint8_t>() != 0; }
+
+    void Take(std::wstring& text) {
+        const std::uint32_t size = Take<std::uint32_t>();
+        if (size > rest_.size() || size > kLongestText) damaged_ = true;
+        text = FromUtf8(damaged_ ? ByteView() : TakeBytes(size));
+    }
+
+    void Take(std::vector<ServiceLine>& lines) {
+        TakeElements(lines, L"Invalid service-line count.");
+    }
+    void Take(std::vector<SeparateItem>& items) {
+        TakeElements(items, L"Invalid separately scheduled item count.");
+    }
+
+    template <HasFields Record>
+    void Take(Record& record) {
+        ForEachField(record, [this](const wchar_t*, auto& value) {
+            if (badCount_ == nullptr) this->Take(value);
+        });
+    }
+
+    /// The next unsigned number; 0 where too little is left.
+    template <typename Unsigned>
+    [[nodiscard]] Unsigned Take() {
+        if (rest_.size() < sizeof(Unsigned)) {
+            damaged_ = true;
+            return 0;
+        }
+        const ByteView bytes = TakeBytes(sizeof(Unsigned));
+        Unsigned number = 0;
+        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
+            number = static_cast<Unsigned>(number | Unsigned{bytes[i]} << (8 * i));
+        }
+        return number;
+    }
+
+  private:
+    ByteView TakeBytes(std::size_t size) {
+        const ByteView bytes = rest_.first(size);
+        rest_ = rest_.subspan(size);
+        return bytes;
+    }
+
+    template <typename Element>
+    void TakeElements(std::vector<Element>& list, const wchar_t* badCount) {
+        const std::uint32_t count = Take<std::uint32_t>();
+        if (count > kMostElements) {
+            badCount_ = badCount;
+            return;
+        }
+        list.clear();
+        list.reserve(count);
+        for (std::uint32_t i = 0; i < count && !damaged_; ++i) Take(list.emplace_back());
+    }
+
+    ByteView rest_;
+    bool damaged_ = false;
+    const wchar_t* badCount_ = nullptr;
+};
+
+// Enough for most records, so that their bytes are not moved, and wiped, while they are written.
+std::size_t LikelySize(const Estimate& estimate) {
+    return 2048 + 256 * (estimate.Lines.size() + estimate.SeparateItems.size());
+}
+
+const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
+    constexpr std::size_t kHead = kMagic.size() + sizeof(kVersion);
+    if (payload.size() < kHead || !std::equal(kMagic.begin(), kMagic.end(), payload.begin())) {
+        return L"The estimate file is not a native GFE file.";
+    }
+    Reader reader(payload.subspan(kMagic.size()));
+    if (reader.Take<std::uint32_t>() != kVersion) return L"Unsupported estimate file version.";
+    reader.Take(estimate);
+    if (reader.Failure() == nullptr) reader.Take(estimate.ReservedFlag);
+    return reader.Failure();
+}
+
+}  // namespace
+
+SecretBytes WriteNativeEstimate(const Estimate& estimate) {
+    SecretBytes bytes(kMagic.begin(), kMagic.end());
+    bytes.reserve(LikelySize(estimate));
+    Writer writer(bytes);
+    writer.Put(kVersion);
+    writer.Put(estimate);
+    writer.Put(estimate.ReservedFlag);
+    return bytes;
+}
+
+bool ReadNativeEstimate(ByteView payload, Estimate& estimate, std::wstring& error) {
+    const wchar_t* failure = ReadPayload(payload, estimate);
+    if (failure != nullptr) error = failure;
+    return failure == nullptr;
+}
+
+}  // namespace tessaline

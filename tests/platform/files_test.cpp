@@ -1,0 +1,55 @@
+#include "platform/files.h"
+
+#include "tests/support/readable.h"
+#include "tests/support/temporary_store.h"
+
+using namespace tessaline;
+
+TEST_CASE("A file is replaced as a whole") {
+    const TemporaryStore store;
+    const std::wstring path = store->BaseFolder + L"\\new\\folders\\a";
+    REQUIRE(WriteFileBytes(path, Bytes(100'000, 7)));
+    CHECK(ReadFileBytes(path) == Bytes(100'000, 7));
+    REQUIRE(WriteFileBytes(path, Bytes{1, 0, 26, 13, 10}));
+    CHECK(ReadFileBytes(path) == Bytes{1, 0, 26, 13, 10});
+    REQUIRE(WriteFileBytes(path, {}));
+    CHECK(ReadFileBytes(path).empty());
+}
+
+TEST_CASE("A file that others have open is read and replaced all the same") {
+    const TemporaryStore store;
+    store.Put(L"a", Bytes{1});
+    const FileOwner open(CreateFileW(store.Path(L"a").c_str(), GENERIC_READ | GENERIC_WRITE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    REQUIRE(open.Get() != INVALID_HANDLE_VALUE);
+    CHECK(ReadFileBytes(store.Path(L"a")) == Bytes{1});
+    CHECK(store.Put(L"a", Bytes{2}));
+}
+
+TEST_CASE("A folder is made with all that is missing above it") {
+    const TemporaryStore store;
+    CHECK(EnsureFolder(store.Path(L"a\\b/c\\")));
+    CHECK(EnsureFolder(store.Path(L"a\\b\\c")));
+    CHECK(std::filesystem::is_directory(store.Path(L"a\\b\\c")));
+    store.Put(L"file", Bytes{1});
+    CHECK_FALSE(EnsureFolder(store.Path(L"file")));
+    CHECK_FALSE(EnsureFolder(store.Path(L"file\\below")));
+}
+
+TEST_CASE("A listing has the files that match, until the visitor has enough") {
+    const TemporaryStore store;
+    for (const wchar_t* name : {L"a.gfe", L"b.GFE", L"c.txt", L"d.gfe"}) store.Put(name, Bytes{1});
+    EnsureFolder(store.Path(L"folder.gfe"));
+    std::size_t seen = 0;
+    const auto count = [&seen](const std::wstring& name) {
+        seen += name.size() == 5 ? 1 : 100;
+        return seen < 3;
+    };
+    ForEachFile(store->EstimatesFolder, L"*.gfe", count);
+    CHECK(seen == 3);
+    ForEachFile(store->EstimatesFolder, L"*.gfe", count);
+    CHECK(seen == 4);
+    ForEachFile(store.Path(L"missing"), L"*", count);
+    CHECK(seen == 4);
+}

@@ -1,0 +1,35 @@
+#include "platform/utf8.h"
+
+#include <string_view>
+
+#include "tests/support/readable.h"
+
+using namespace tessaline;
+
+TEST_CASE("Texts become UTF-8 and come back") {
+    struct Row {
+        std::wstring_view text;
+        std::string_view utf8;
+    };
+    using namespace std::literals;
+    const Row rows[] = {
+        {L"", ""},
+        {L"a\0~\x7F"sv, "a\0~\x7F"sv},
+        {L"\u0080\u00E9\u07FF", "\xC2\x80\xC3\xA9\xDF\xBF"},
+        {L"x\u0800\u2014\uFFFF", "x\xE0\xA0\x80\xE2\x80\x94\xEF\xBF\xBF"},
+        {L"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+    };
+    for (const Row& row : rows) {
+        SecretBytes bytes{'>'};
+        AppendUtf8(bytes, row.text);
+        CHECK(std::string(bytes.begin(), bytes.end()) == ">" + std::string(row.utf8));
+        CHECK(FromUtf8(ByteView(bytes).subspan(1)) == row.text);
+    }
+}
+
+TEST_CASE("What is ill-formed is replaced") {
+    SecretBytes bytes;
+    AppendUtf8(bytes, L"\xDC00-\xD800");
+    CHECK(std::string(bytes.begin(), bytes.end()) == "\xEF\xBF\xBD-\xEF\xBF\xBD");
+    CHECK(FromUtf8(Bytes{'a', 0x80, 'b', 0xC3}) == L"a\uFFFDb\uFFFD");
+}

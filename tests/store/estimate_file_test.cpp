@@ -1,0 +1,143 @@
+#include "store/estimate_file.h"
+
+#include <string_view>
+
+#include "model/dates.h"
+#include "tests/support/distinct_estimate.h"
+#include "tests/support/readable.h"
+#include "tests/support/temporary_store.h"
+
+using namespace tessaline;
+
+namespace {
+
+struct Outcome {
+    bool done;
+    Estimate estimate;
+    std::wstring path, error;
+};
+
+Outcome Save(const LocalStore& store, const Estimate& estimate) {
+    Outcome outcome{false, estimate, L"", L""};
+    outcome.done = SaveEstimate(store, outcome.estimate, outcome.path, outcome.error);
+    return outcome;
+}
+
+Outcome Load(const LocalStore& store, const std::wstring& path) {
+    Outcome outcome{false, {}, path, L""};
+    outcome.done = LoadEstimateFile(store, path, outcome.estimate, outcome.error);
+    return outcome;
+}
+
+Estimate WithId(const wchar_t* id) {
+    Estimate estimate = DistinctEstimate();
+    estimate.EstimateId = id;
+    return estimate;
+}
+
+}  // namespace
+
+TEST_CASE("A saved estimate comes back, stamped") {
+    const TemporaryStore store;
+    const std::int64_t before = NowSeconds();
+    const Outcome saved = Save(store, DistinctEstimate());
+    REQUIRE(saved.done);
+    CHECK(Differences(saved.estimate, DistinctEstimate()) == L"LastModifiedOn ");
+    CHECK(saved.estimate.LastModifiedOn >= before);
+    const Outcome loaded = Load(store, saved.path);
+    REQUIRE(loaded.done);
+    CHECK(Differences(loaded.estimate, saved.estimate) == L"");
+}
+
+TEST_CASE("What a first save finds missing it fills in") {
+    const TemporaryStore store;
+    Estimate blank;
+    blank.CreatedOn = -5;
+    const Outcome saved = Save(store, blank);
+    REQUIRE(saved.done);
+    CHECK(saved.estimate.EstimateId.starts_with(L"GFE-"));
+    CHECK(saved.estimate.RootEstimateId == saved.estimate.EstimateId);
+    CHECK(saved.estimate.CreatedOn == saved.estimate.LastModifiedOn);
+    CHECK(saved.path == store.Path(saved.estimate.EstimateId + L".gfe"));
+    CHECK(store.Has(saved.estimate.EstimateId + L".gfe"));
+}
+
+TEST_CASE("Identifiers that clean to one name share a file, and the later save stays") {
+    const TemporaryStore store;
+    CHECK(Save(store, WithId(L"GFE:1/R1")).path == store.Path(L"GFE-1-R1.gfe"));
+    Estimate shorter;
+    shorter.EstimateId = L"GFE-1?R1";
+    CHECK(Save(store, shorter).done);
+    CHECK(Load(store, store.Path(L"GFE-1-R1.gfe")).estimate.EstimateId == L"GFE-1?R1");
+}
+
+TEST_CASE("A save makes the folders that are missing") {
+    const TemporaryStore store;
+    RemoveDirectoryW(store->EstimatesFolder.c_str());
+    RemoveDirectoryW(store->BaseFolder.c_str());
+    CHECK(Save(store, WithId(L"a")).done);
+}
+
+TEST_CASE("A file that cannot be written fails the save, which keeps its stamps") {
+    const TemporaryStore store;
+    LocalStore blocked = store;
+    FileOwner lock;
+    SUBCASE("locked") {
+        REQUIRE(Save(store, WithId(L"a")).done);
+        lock = store.Lock(L"a.gfe");
+    }
+    SUBCASE("read-only") {
+        REQUIRE(Save(store, WithId(L"a")).done);
+        SetFileAttributesW(store.Path(L"a.gfe").c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+    SUBCASE("a folder of that name") {
+        EnsureFolder(store.Path(L"a.gfe"));
+    }
+    SUBCASE("a file where the folder should be") {
+        store.Put(L"file", Bytes(1));
+        blocked.EstimatesFolder = store.Path(L"file");
+    }
+    const Outcome saved = Save(blocked, WithId(L"a"));
+    CHECK_FALSE(saved.done);
+    CHECK(saved.error == L"Could not write the estimate file.");
+    CHECK(saved.path == blocked.EstimatesFolder + L"\\a.gfe");
+    CHECK(saved.estimate.LastModifiedOn >= NowSeconds() - 10);
+    SetFileAttributesW(store.Path(L"a.gfe").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_CASE("Each file that is no estimate has its message") {
+    const TemporaryStore store;
+    struct Row {
+        std::string_view content;
+        std::wstring message;
+    };
+    const Row rows[] = {
+        {"", L"Could not read the estimate file."},
+        {"G", L"Unsupported estimate file format."},
+        {"GFE", L"Unsupported estimate file format."},
+        {"GFED", L"Unsupported estimate file format."},
+        {"GFN2 and more", L"Unsupported estimate file format."},
+        {"GFN1", L"This is not a native encrypted GFE file."},
+        {"GFN1x", L"Could not decrypt this estimate for the current Windows user: "},
+        {"GFE2 an older file whose key is not there", L"Could not decrypt the legacy estimate."},
+    };
+    for (const Row& row : rows) {
+        store.Put(L"a.gfe", Bytes(row.content.begin(), row.content.end()));
+        const Outcome loaded = Load(store, store.Path(L"a.gfe"));
+        CHECK_FALSE(loaded.done);
+        CHECK(loaded.error.substr(0, row.message.size()) == row.message);
+    }
+}
+
+TEST_CASE("A file that cannot be opened, and an envelope around something else, are refused") {
+    const TemporaryStore store;
+    CHECK(Load(store, store.Path(L"missing.gfe")).error == L"Could not read the estimate file.");
+    CHECK(Load(store, store->EstimatesFolder).error == L"Could not read the estimate file.");
+    store.PutEstimate(L"a.gfe", Estimate());
+    const FileOwner lock = store.Lock(L"a.gfe");
+    CHECK(Load(store, store.Path(L"a.gfe")).error == L"Could not read the estimate file.");
+    std::wstring error;
+    store.Put(L"b.gfe", ProtectEstimateData(Bytes(300), error));
+    CHECK(Load(store, store.Path(L"b.gfe")).error ==
+          L"The estimate file is not a native GFE file.");
+}

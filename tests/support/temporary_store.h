@@ -1,0 +1,77 @@
+// Data folders of a test's own: a fresh folder below the system's temporary folder, removed with
+// everything in it when the test ends.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include "platform/files.h"
+#include "platform/handles.h"
+#include "store/envelope.h"
+#include "store/local_store.h"
+#include "store/native_format.h"
+
+namespace tessaline {
+
+class TemporaryStore {
+  public:
+    TemporaryStore() : store_(LocalStoreBelow(FreshFolder())) {
+        EnsureFolder(store_.EstimatesFolder);
+    }
+    TemporaryStore(const TemporaryStore&) = delete;
+    TemporaryStore& operator=(const TemporaryStore&) = delete;
+    ~TemporaryStore() {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+
+    operator const LocalStore&() const { return store_; }  // NOLINT(google-explicit-constructor)
+    const LocalStore* operator->() const { return &store_; }
+
+    /// The path of a file in the estimates folder.
+    [[nodiscard]] std::wstring Path(const std::wstring& name) const {
+        return store_.EstimatesFolder + L"\\" + name;
+    }
+
+    /// Writes a file into the estimates folder.
+    bool Put(const std::wstring& name, ByteView bytes) const {
+        return WriteFileBytes(Path(name), bytes);
+    }
+
+    /// Writes a record as it is, which `SaveEstimate` would stamp.
+    bool PutEstimate(const std::wstring& name, const Estimate& estimate) const {
+        std::wstring error;
+        return Put(name, ProtectEstimateData(WriteNativeEstimate(estimate), error));
+    }
+
+    /// Keeps a file open so that nobody else can open it.
+    [[nodiscard]] FileOwner Lock(const std::wstring& name) const {
+        return FileOwner(CreateFileW(Path(name).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    }
+
+    [[nodiscard]] bool Has(const std::wstring& name) const {
+        return GetFileAttributesW(Path(name).c_str()) != INVALID_FILE_ATTRIBUTES;
+    }
+
+  private:
+    const std::wstring& FreshFolder() {
+        std::array<wchar_t, MAX_PATH + 1> temporary{};
+        GetTempPathW(static_cast<DWORD>(temporary.size()), temporary.data());
+        static int count = 0;
+        folder_ = temporary.data() + (L"tessaline-" + std::to_wstring(GetCurrentProcessId()) +
+                                      L"-" + std::to_wstring(++count));
+        // A run with the same process id that was ended early may have left its folder.
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+        return folder_;
+    }
+
+    std::wstring folder_;
+    LocalStore store_;
+};
+
+}  // namespace tessaline

@@ -1,0 +1,100 @@
+#include "ui/commands.h"
+
+#include <commctrl.h>
+
+#include "model/new_estimate.h"
+#include "platform/message_box.h"
+#include "ui/about.h"
+#include "ui/app_state.h"
+#include "ui/binding.h"
+#include "ui/control_ids.h"
+#include "ui/item_commands.h"
+#include "ui/lookup_commands.h"
+#include "ui/output_commands.h"
+#include "ui/sample_estimate.h"
+#include "ui/save_command.h"
+
+namespace tessaline {
+namespace {
+
+void NewCommand() {
+    AppState& app = *App();
+    if (app.IsModified &&
+        !AskYesNo(app.mainWindow, L"Start a new estimate? Unsaved changes will be lost.",
+                  L"New Estimate")) {
+        return;
+    }
+    app.CurrentFilePath.clear();
+    BindToForm(NewEstimate());
+    SetStatusLine(L"Draft not saved yet");
+}
+
+void SaveByButton() {
+    SaveCommand(false, false);
+}
+
+void NotYetScheduledChanged() {
+    const HWND box = ControlById(kNotYetScheduledCheck);
+    const bool checked = SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    EnableWindow(ControlById(kScheduledDatesEdit), !checked);
+    MarkDirty();
+}
+
+struct CommandRow {
+    int control;
+    void (*run)();
+};
+
+constexpr CommandRow kCommands[] = {
+    {kNewButton, NewCommand},
+    {kOpenButton, OpenEstimateCommand},
+    {kSaveButton, SaveByButton},
+    {kSampleButton, LoadSample},
+    {kAboutButton, ShowAbout},
+    {kPatientLookupButton, PatientLookupCommand},
+    {kProviderLookupButton, ProviderLookupCommand},
+    {kNotYetScheduledCheck, NotYetScheduledChanged},
+    {kAddLineButton, AddLine},
+    {kEditLineButton, EditLine},
+    {kRemoveLineButton, RemoveLine},
+    {kAddSeparateButton, AddSeparateItem},
+    {kEditSeparateButton, EditSelectedSeparateItem},
+    {kRemoveSeparateButton, RemoveSeparateItem},
+    {kPreviewButton, PreviewCommand},
+    {kPrintButton, PrintCommand},
+};
+
+bool IsEdit(int id, int notification) {
+    if (id == kStatusChoice) return notification == CBN_SELCHANGE;
+    const bool onForm = id >= kFirstFormControl && id <= kLastFormControl;
+    return onForm && (notification == EN_CHANGE || notification == CBN_SELCHANGE);
+}
+
+}  // namespace
+
+bool RunCommand(int id, int notification) {
+    for (const CommandRow& row : kCommands) {
+        if (row.control != id) continue;
+        row.run();
+        return true;
+    }
+    if (!IsEdit(id, notification)) return false;
+    MarkDirty();
+    return true;
+}
+
+bool RunListNotification(const NMHDR& notification) {
+    if (notification.code != NM_DBLCLK) return false;
+    if (notification.idFrom == kLinesList) return RunCommand(kEditLineButton, BN_CLICKED);
+    if (notification.idFrom == kSeparateList) return RunCommand(kEditSeparateButton, BN_CLICKED);
+    return false;
+}
+
+bool MayClose() {
+    const AppState& app = *App();
+    return !app.IsModified ||
+           AskYesNo(app.mainWindow, L"Close the program? Unsaved changes will be lost.",
+                    L"Good Faith Estimate");
+}
+
+}  // namespace tessaline

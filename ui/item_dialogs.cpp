@@ -1,0 +1,209 @@
+#include "ui/item_dialogs.h"
+
+#include <array>
+#include <span>
+#include <utility>
+
+#include "model/money.h"
+#include "model/text.h"
+#include "platform/controls.h"
+#include "platform/message_box.h"
+#include "platform/modal.h"
+#include "platform/scale.h"
+#include "platform/theme.h"
+#include "platform/window.h"
+
+namespace tessaline {
+namespace {
+
+constexpr int kOkButton = 1;  // edits share the buttons' numbers; only buttons send code 0
+constexpr int kCancelButton = 2;
+constexpr int kMostControls = 8;
+
+// One labelled control of a dialog, in pixels at 96 DPI. Its ID is its place in the table, from 1.
+struct DialogField {
+    const wchar_t* label;
+    Box labelBox;
+    Box fieldBox;
+    DWORD extraStyle = 0;
+    Entries entries = {};
+};
+
+constexpr const wchar_t* kCodeTypes[] = {L"CPT", L"HCPCS", L"DRG", L"NDC", L"Other"};
+
+enum LineField { kItem = 1, kWhere, kDiagnosis, kCodeType, kCode, kQuantity, kCharge };
+constexpr DialogField kLineFields[] = {
+    {L"Service / item", {20, 18, 310, 18}, {20, 38, 420, 25}},
+    {L"Where provided", {20, 78, 310, 18}, {20, 98, 420, 25}},
+    {L"Diagnosis code", {20, 138, 190, 18}, {20, 158, 190, 25}},
+    {L"Code type", {220, 138, 100, 18}, {220, 158, 100, kChoiceHeight}, 0, kCodeTypes},
+    {L"Service code", {330, 138, 110, 18}, {330, 158, 110, 25}},
+    {L"Quantity", {20, 198, 100, 18}, {20, 218, 100, 25}},
+    {L"Expected charge", {140, 198, 150, 18}, {140, 218, 150, 25}},
+};
+
+enum SeparateField { kSeparateItem = 1, kInstructions };
+constexpr DialogField kSeparateFields[] = {
+    {L"Service / item", {20, 20, 430, 18}, {20, 40, 500, 25}},
+    {L"Provider / facility or instructions for obtaining GFE",
+     {20, 82, 500, 18},
+     {20, 102, 500, 110},
+     ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL},
+};
+
+// What sets one dialog apart from the other.
+struct DialogKind {
+    const wchar_t* className;
+    const wchar_t* title;
+    int width;
+    int height;
+    WNDPROC procedure;
+    std::span<const DialogField> fields;
+    Box ok;
+    Box cancel;
+};
+
+template <typename Row>
+struct DialogState : ModalState {
+    const DialogKind* kind = nullptr;
+    Row row;
+    std::array<HWND, kMostControls> controls{};  // by ID
+
+    [[nodiscard]] std::wstring Text(int id) const {
+        return Trim(WindowText(controls[static_cast<std::size_t>(id)]));
+    }
+    void Show(int id, const std::wstring& text) const {
+        SetWindowTextW(controls[static_cast<std::size_t>(id)], text.c_str());
+    }
+};
+
+using LineState = DialogState<ServiceLine>;
+using SeparateState = DialogState<SeparateItem>;
+
+void Fill(const LineState& state) {
+    const ServiceLine& line = state.row;
+    state.Show(kItem, line.ServiceItem);
+    state.Show(kWhere, line.ServiceAddress);
+    state.Show(kDiagnosis, line.DiagnosisCode);
+    SelectChoice(state.controls[kCodeType], line.ServiceCodeType);
+    state.Show(kCode, line.ServiceCode);
+    state.Show(kQuantity, std::to_wstring(line.Quantity));
+    if (line.ExpectedCharge > 0) state.Show(kCharge, FormatMoney(line.ExpectedCharge).substr(1));
+}
+
+void Fill(const SeparateState& state) {
+    state.Show(kSeparateItem, state.row.ServiceItem);
+    state.Show(kInstructions, state.row.ProviderFacilityInstructions);
+}
+
+// Reads the controls into the working copy. False, after telling the user, when they are not
+// valid.
+bool Accept(LineState& state) {
+    ServiceLine& line = state.row;
+    line.ServiceItem = state.Text(kItem);
+    if (line.ServiceItem.empty()) {
+        ShowWarning(state.window, L"Enter the service or item description.", L"Service");
+        return false;
+    }
+    line.ServiceAddress = state.Text(kWhere);
+    line.DiagnosisCode = state.Text(kDiagnosis);
+    line.ServiceCode = state.Text(kCode);
+    line.ServiceCodeType = ChoiceText(state.controls[kCodeType]);
+    line.Quantity = ParseQuantityText(state.Text(kQuantity));
+    line.ExpectedCharge = ParseMoneyText(state.Text(kCharge));
+    if (line.ExpectedCharge > 0) return true;
+    ShowWarning(state.window, L"Enter an expected charge greater than $0.", L"Service");
+    return false;
+}
+
+bool Accept(SeparateState& state) {
+    state.row.ServiceItem = state.Text(kSeparateItem);
+    state.row.ProviderFacilityInstructions = state.Text(kInstructions);
+    if (!state.row.ServiceItem.empty()) return true;
+    ShowWarning(state.window, L"Enter the service or item.", L"Service");
+    return false;
+}
+
+template <typename Row>
+void BuildControls(HWND window, DialogState<Row>& state) {
+    state.window = window;
+    int id = 1;
+    for (const DialogField& field : state.kind->fields) {
+        MakeLabel(window, field.label, field.labelBox, CurrentTheme().labelFont.Get());
+        state.controls[static_cast<std::size_t>(id)] =
+            field.entries.empty() ? MakeEdit(window, id, field.fieldBox, field.extraStyle)
+                                  : MakeChoice(window, id, field.fieldBox, field.entries);
+        ++id;
+    }
+    MakeButton(window, kOkButton, L"OK", state.kind->ok, true);
+    MakeButton(window, kCancelButton, L"Cancel", state.kind->cancel);
+    Fill(state);
+}
+
+template <typename Row>
+LRESULT HandleDialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* const state = WindowState<DialogState<Row>>(window, message, lParam);
+    if (state == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+    if (KeepFocus(window, message, wParam)) return 0;
+    switch (message) {
+        case WM_CREATE:
+            BuildControls(window, *state);
+            return 0;
+        case WM_COMMAND:
+            if (HIWORD(wParam) != BN_CLICKED) return 0;
+            if (LOWORD(wParam) == kOkButton && Accept(*state)) EndModal(*state, true);
+            if (LOWORD(wParam) == kCancelButton) EndModal(*state, false);
+            return 0;
+        case WM_CLOSE:
+            EndModal(*state, false);
+            return 0;
+        default:
+            return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+template <typename Row>
+bool EditRow(HWND owner, const DialogKind& kind, Row& row) {
+    RegisterWindowClass({kind.className, kind.procedure, CurrentTheme().whiteBrush.Get()});
+    DialogState<Row> state;
+    state.owner = owner;
+    state.kind = &kind;
+    state.row = row;
+    const HWND window =
+        CreateWindowExW(WS_EX_DLGMODALFRAME, kind.className, kind.title, WS_CAPTION | WS_SYSMENU,
+                        CW_USEDEFAULT, CW_USEDEFAULT, Scale(kind.width), Scale(kind.height), owner,
+                        nullptr, ProgramInstance(), &state);
+    if (window == nullptr || !RunModal(state)) return false;
+    row = std::move(state.row);
+    return true;
+}
+
+const DialogKind kLineDialog = {L"GFE_LineDialog",
+                                L"Expected Item / Service",
+                                480,
+                                350,
+                                GuardedProcedure<HandleDialogMessage<ServiceLine>>,
+                                kLineFields,
+                                {270, 270, 80, 34},
+                                {360, 270, 80, 34}};
+
+const DialogKind kSeparateDialog = {L"GFE_SepDialog",
+                                    L"Separately Scheduled Service",
+                                    560,
+                                    320,
+                                    GuardedProcedure<HandleDialogMessage<SeparateItem>>,
+                                    kSeparateFields,
+                                    {350, 230, 80, 34},
+                                    {440, 230, 80, 34}};
+
+}  // namespace
+
+bool EditServiceLine(HWND owner, ServiceLine& line) {
+    return EditRow(owner, kLineDialog, line);
+}
+
+bool EditSeparateItem(HWND owner, SeparateItem& item) {
+    return EditRow(owner, kSeparateDialog, item);
+}
+
+}  // namespace tessaline

@@ -1,0 +1,75 @@
+// The entry point: prepares the process, runs the main window and cleans up.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <clocale>
+
+#include "platform/scale.h"
+#include "platform/theme.h"
+#include "platform/window.h"
+#include "store/local_store.h"
+#include "ui/app_state.h"
+#include "ui/header.h"
+#include "ui/main_window.h"
+
+namespace tessaline {
+namespace {
+
+void InitialiseCommonControls() {
+    INITCOMMONCONTROLSEX controls{};
+    controls.dwSize = sizeof(controls);
+    controls.dwICC = ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES;
+    InitCommonControlsEx(&controls);
+}
+
+// No dialog-message filtering: Tab does not move between the form's fields.
+int RunMessageLoop() {
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+int RunMainWindow(int showState) {
+    const HWND window = CreateMainWindow();
+    if (window == nullptr) return 1;
+    ShowWindow(window, showState);
+    UpdateWindow(window);
+    CentreWindow(window, nullptr);
+    const int exitCode = RunMessageLoop();
+    // A quit message can come from elsewhere than the window's end.
+    if (IsWindow(window)) DestroyWindow(window);
+    return exitCode;
+}
+
+int RunProgram(HINSTANCE instance, int showState) {
+    // Upper and lower case follow the user's language; numbers and dates stay as in "C".
+    std::setlocale(LC_CTYPE, "");
+    InitialiseCommonControls();
+    SetScreenDpi(ReadScreenDpi());
+    CreateTheme();
+    LoadHeaderBanner();
+    AppState state;
+    state.instance = instance;
+    state.store = PrepareDataFolders();
+    PublishAppState(&state);
+    const int exitCode = RunMainWindow(showState);
+    PublishAppState(nullptr);
+    ReleaseHeaderBanner();
+    ReleaseTheme();
+    return exitCode;
+}
+
+}  // namespace
+}  // namespace tessaline
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int showState) {
+    try {
+        return tessaline::RunProgram(instance, showState);
+    } catch (...) {
+        return 1;  // no memory to start with
+    }
+}

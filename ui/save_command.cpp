@@ -1,0 +1,63 @@
+#include "ui/save_command.h"
+
+#include "model/dates.h"
+#include "model/text.h"
+#include "platform/controls.h"
+#include "platform/message_box.h"
+#include "store/estimate_file.h"
+#include "store/revision.h"
+#include "ui/app_state.h"
+#include "ui/binding.h"
+#include "ui/control_ids.h"
+#include "ui/validation_marks.h"
+
+namespace tessaline {
+namespace {
+
+// An issued estimate is never overwritten by an edit. A cancellation is no edit of what it says.
+bool BecomesRevision(const AppState& app) {
+    const bool issued = app.SavedStatus == kStatusIssued || app.SavedStatus == kStatusRevised;
+    return !app.CurrentFilePath.empty() && app.IsModified && issued &&
+           app.currentEstimate.EstimateStatus != kStatusCancelled;
+}
+
+void StartRevision(AppState& app) {
+    app.currentEstimate = MakeRevision(app.store, app.currentEstimate);
+    app.CurrentFilePath.clear();
+    SetWindowTextW(ControlById(kEstimateIdEdit), app.currentEstimate.EstimateId.c_str());
+    SelectChoice(app.statusCombo, kStatusDraft);
+}
+
+}  // namespace
+
+bool SaveCommand(bool quiet, bool automatic) {
+    AppState& app = *App();
+    Validate(false);
+    if (BecomesRevision(app)) StartRevision(app);
+    std::wstring path;
+    std::wstring error;
+    if (!SaveEstimate(app.store, app.currentEstimate, path, error)) {
+        if (!quiet) ShowError(app.mainWindow, error, L"Save Error");
+        return false;
+    }
+    app.CurrentFilePath = path;
+    app.IsModified = false;
+    app.SavedStatus = app.currentEstimate.EstimateStatus;
+    SetStatusLine((automatic ? L"Auto-saved " : L"Saved ") + FormatTimestamp(NowSeconds(), true));
+    if (!quiet) ShowInformation(app.mainWindow, L"Estimate saved locally.", L"Saved");
+    return true;
+}
+
+void AutoSave() {
+    AppState& app = *App();
+    if (!app.IsModified) return;
+    ReadForm();
+    const Estimate& estimate = app.currentEstimate;
+    if (IsBlank(estimate.Patient.FirstName) && IsBlank(estimate.Patient.LastName) &&
+        IsBlank(estimate.PrimaryService)) {
+        return;
+    }
+    SaveCommand(true, true);
+}
+
+}  // namespace tessaline
