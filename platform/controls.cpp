@@ -78,6 +78,12 @@ HWND MakeCheckBox(HWND parent, int id, const wchar_t* text, const Box& box) {
         {L"BUTTON", text, WS_TABSTOP | BS_AUTOCHECKBOX, 0, CurrentTheme().labelFont.Get()});
 }
 
+LRESULT ColourLabel(WPARAM context, COLORREF colour, HBRUSH background) {
+    SetBkMode(reinterpret_cast<HDC>(context), TRANSPARENT);
+    SetTextColor(reinterpret_cast<HDC>(context), colour);
+    return reinterpret_cast<LRESULT>(background);
+}
+
 std::wstring WindowText(HWND window) {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
     // The length may be too large an estimate; what is copied decides.

@@ -41,6 +41,10 @@ HWND MakeButton(HWND parent, int id, const wchar_t* text, const Box& box, bool e
 /// A check box that toggles itself, in the font of labels.
 HWND MakeCheckBox(HWND parent, int id, const wchar_t* text, const Box& box);
 
+/// Answers WM_CTLCOLORSTATIC: the text of a label in `colour` on its parent's own background,
+/// which `background` is.
+LRESULT ColourLabel(WPARAM context, COLORREF colour, HBRUSH background);
+
 /// The whole text of a window, as it stands.
 [[nodiscard]] std::wstring WindowText(HWND window);
 

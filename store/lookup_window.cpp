@@ -105,6 +105,8 @@ LRESULT HandleLookupMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             SendMessageW(window, WM_COMMAND, MAKEWPARAM(kConfirmButton, BN_CLICKED), 0);
             return 0;
         }
+        case WM_CTLCOLORSTATIC:
+            return ColourLabel(wParam, kInkColour, CurrentTheme().pageBrush.Get());
         case WM_CLOSE:
             EndModal(*state, false);
             return 0;

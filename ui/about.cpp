@@ -55,12 +55,6 @@ void BuildControls(HWND window, AboutState& state) {
     MakeButton(window, kCloseButton, L"Close", {480, 370, 90, 38});
 }
 
-LRESULT ColourLabel(const AboutState& state, HDC context, HWND label) {
-    SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, label == state.webAddress ? kAccentColour : kInkColour);
-    return reinterpret_cast<LRESULT>(CurrentTheme().whiteBrush.Get());
-}
-
 LRESULT HandleAboutMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* const state = WindowState<AboutState>(window, message, lParam);
     if (state == nullptr) return DefWindowProcW(window, message, wParam, lParam);
@@ -70,8 +64,10 @@ LRESULT HandleAboutMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPar
             BuildControls(window, *state);
             return 0;
         case WM_CTLCOLORSTATIC:
-            return ColourLabel(*state, reinterpret_cast<HDC>(wParam),
-                               reinterpret_cast<HWND>(lParam));
+            return ColourLabel(
+                wParam,
+                reinterpret_cast<HWND>(lParam) == state->webAddress ? kAccentColour : kInkColour,
+                CurrentTheme().whiteBrush.Get());
         case WM_COMMAND:
             if (LOWORD(wParam) == kCloseButton) EndModal(*state, false);
             return 0;

@@ -36,12 +36,10 @@ LRESULT PaintTotalBackground(HWND panel, HDC context) {
     return 1;
 }
 
-LRESULT ColourTotalText(HDC context) {
+LRESULT ColourTotalText(WPARAM context) {
     // Lives as long as the process; Windows only borrows it.
     static const BrushOwner brush(CreateSolidBrush(kTotalFillColour));
-    SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, kNavyColour);
-    return reinterpret_cast<LRESULT>(brush.Get());
+    return ColourLabel(context, kNavyColour, brush.Get());
 }
 
 }  // namespace
@@ -78,12 +76,8 @@ LRESULT HandleBarMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam
         case WM_NOTIFY:
             if (App() == nullptr || App()->mainWindow == nullptr) return 0;
             return SendMessageW(App()->mainWindow, message, wParam, lParam);
-        case WM_CTLCOLORSTATIC: {
-            const HDC context = reinterpret_cast<HDC>(wParam);
-            SetBkMode(context, TRANSPARENT);
-            SetTextColor(context, kInkColour);
-            return reinterpret_cast<LRESULT>(CurrentTheme().whiteBrush.Get());
-        }
+        case WM_CTLCOLORSTATIC:
+            return ColourLabel(wParam, kInkColour, CurrentTheme().whiteBrush.Get());
         default:
             return DefWindowProcW(window, message, wParam, lParam);
     }
@@ -93,7 +87,7 @@ LRESULT HandleTotalMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     if (message == WM_ERASEBKGND) {
         return PaintTotalBackground(window, reinterpret_cast<HDC>(wParam));
     }
-    if (message == WM_CTLCOLORSTATIC) return ColourTotalText(reinterpret_cast<HDC>(wParam));
+    if (message == WM_CTLCOLORSTATIC) return ColourTotalText(wParam);
     return DefWindowProcW(window, message, wParam, lParam);
 }
 

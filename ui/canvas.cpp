@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/controls.h"
 #include "platform/theme.h"
 #include "ui/app_state.h"
 
@@ -16,12 +17,9 @@ HBRUSH ColourEdit(HDC context, HWND edit) {
     return invalid ? CurrentTheme().errorFillBrush.Get() : CurrentTheme().whiteBrush.Get();
 }
 
-HBRUSH ColourLabel(HDC context, HWND label) {
+bool IsMessageLine(HWND label) {
     const auto& lines = App()->sectionMessage;
-    const bool message = std::find(std::begin(lines), std::end(lines), label) != std::end(lines);
-    SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, message ? kErrorTextColour : kInkColour);
-    return static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH));
+    return std::find(std::begin(lines), std::end(lines), label) != std::end(lines);
 }
 
 }  // namespace
@@ -37,8 +35,10 @@ LRESULT HandleCanvasMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             return reinterpret_cast<LRESULT>(
                 ColourEdit(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
         case WM_CTLCOLORSTATIC:
-            return reinterpret_cast<LRESULT>(
-                ColourLabel(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+            return ColourLabel(
+                wParam,
+                IsMessageLine(reinterpret_cast<HWND>(lParam)) ? kErrorTextColour : kInkColour,
+                static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH)));
         case WM_MOUSEWHEEL:
             return SendMessageW(App()->scrollWindow, message, wParam, lParam);
         default:

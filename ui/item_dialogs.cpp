@@ -154,6 +154,8 @@ LRESULT HandleDialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             if (LOWORD(wParam) == kOkButton && Accept(*state)) EndModal(*state, true);
             if (LOWORD(wParam) == kCancelButton) EndModal(*state, false);
             return 0;
+        case WM_CTLCOLORSTATIC:
+            return ColourLabel(wParam, kInkColour, CurrentTheme().whiteBrush.Get());
         case WM_CLOSE:
             EndModal(*state, false);
             return 0;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Renders the masters beside this script into ui/resources/. The results are committed, so that building
-# the program needs none of these tools; run this after changing a master.
+# Renders the masters beside this script into ui/resources/. The results are committed, so that
+# building the program needs none of these tools; run this after changing a master.
 set -euo pipefail
 
 art=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -27,11 +27,10 @@ for size in 16 24 32 48 64 256; do
   rsvg-convert --width "$size" --height "$size" "$master" --output "$work/$size.png"
   images+=("$work/$size.png")
 done
-# TrueColorAlpha keeps the small sizes at 32 bits: their few colours would otherwise become a palette,
-# which has no partial transparency. 256 is stored as PNG; without times two runs give the same bytes.
-"$convert" "${images[@]}" -type TrueColorAlpha -define png:exclude-chunks=date,time \
-  "$resources/tessaline.ico"
+# ICO keeps 256 px as PNG, the others as 32-bit bitmaps with alpha.
+"$convert" "${images[@]}" "$resources/tessaline.ico"
 
-# BMP3 is the plain BITMAPINFOHEADER that every resource compiler and LoadImageW take.
+# BMP3 has the plain BITMAPINFOHEADER that every resource compiler takes; TrueColor keeps 24 bits
+# even for a drawing of so few colours that a palette would do.
 rsvg-convert "$art/banner.svg" --output "$work/banner.png"
-"$convert" "$work/banner.png" -alpha off -type TrueColor -compress None "BMP3:$resources/banner.bmp"
+"$convert" "$work/banner.png" -type TrueColor -compress None "BMP3:$resources/banner.bmp"
