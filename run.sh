@@ -20,8 +20,7 @@ if [ "${1:-}" != --tour ] && have_display; then
 else
   echo "There is no display here (or the tour was asked for): taking the tour."
   need_packages "${kTourPackages[@]}"
-  cmake --build --preset release --target tour
   start_display
   use_prefix "$PWD/build/wine-tour"
-  scripts/tour.sh "$PWD/build/release/Tessaline.exe" "$PWD/build/release/tour.exe" "$PWD/build/tour"
+  scripts/tour.sh "$PWD/build/release/Tessaline.exe" "$PWD/build/tour"
 fi

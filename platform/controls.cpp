@@ -1,5 +1,7 @@
 #include "platform/controls.h"
 
+#include <commctrl.h>
+
 #include <array>
 #include <cwchar>
 
@@ -38,6 +40,13 @@ std::wstring EntryText(HWND choice, WPARAM index) {
     return text.data();
 }
 
+LRESULT CALLBACK AnswerAsSingleLine(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
+                                    UINT_PTR id, DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, AnswerAsSingleLine, id);
+    const LRESULT answer = DefSubclassProc(edit, message, wParam, lParam);
+    return message == WM_GETDLGCODE ? answer & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB) : answer;
+}
+
 }  // namespace
 
 void PlaceControl(HWND control, const Box& box) {
@@ -53,6 +62,10 @@ HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle) {
     const DWORD style = WS_TABSTOP | ES_AUTOHSCROLL | extraStyle;
     return MakeControl(parent, id, box,
                        {L"EDIT", L"", style, WS_EX_CLIENTEDGE, CurrentTheme().uiFont.Get()});
+}
+
+void LeaveKeysToDialog(HWND edit) {
+    SetWindowSubclass(edit, AnswerAsSingleLine, 1, 0);
 }
 
 HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries) {

@@ -2,7 +2,7 @@
 
 kBuildPackages=(g++-mingw-w64-x86-64 cmake ninja-build)
 kRunPackages=(wine wine64 xvfb xauth x11-utils fonts-open-sans fonts-wine)
-kTourPackages=(imagemagick cups cups-client printer-driver-cups-pdf ghostscript poppler-utils)
+kTourPackages=(imagemagick xdotool cups cups-client printer-driver-cups-pdf ghostscript poppler-utils)
 kTestPackages=(doctest-dev clang clang-tidy clang-format)
 
 need_packages() {

@@ -1,39 +1,291 @@
 #!/usr/bin/env bash
-# Drives the real program through a clerk's day with real input and leaves pictures and the printed
-# PDF: scripts/tour.sh TESSALINE.EXE TOUR.EXE FOLDER. Needs a display and a Wine prefix.
+# Drives the real program through a clerk's day with real mouse and keyboard input, and leaves pictures
+# and the printed PDF: scripts/tour.sh TESSALINE.EXE FOLDER. Needs a display of 1920 x 1080 without a
+# window manager and a Wine prefix; empties that prefix's estimates.
 set -euo pipefail
-. "$(dirname "$0")/desktop.sh"
-program=$1 driver=$2 folder=$3
-data=$(cd "$(dirname "$0")/../tests/data" && pwd)
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/desktop.sh"
+program=$1 folder=$2
+data=$here/../tests/data
 
-desktop_pids=()
-trap 'for pid in "${desktop_pids[@]}"; do kill "$pid" 2>/dev/null || true; done' EXIT
-rm -rf "$folder"
-mkdir -p "$folder"
-print=no
-if start_printer; then print=yes; else echo "No CUPS here: the tour does not print."; fi
-touch "$folder/started"
+# The main window opens centred: its client area, and in that the form's canvas, start here.
+client_x=304 client_y=103
+canvas_x=$((client_x + 182)) canvas_y=$((client_y + 266))
+scroll=0
 
-code=0
-wine "$driver" "$program" "$folder" "$data" $print >"$folder/tour.log" 2>&1 || code=$?
-cat "$folder/tour.log"
-for picture in "$folder"/*.bmp; do
-  [ -e "$picture" ] || continue
-  convert "$picture" "${picture%.bmp}.png"
-  rm "$picture"
-done
-[ $code -eq 0 ] && grep -q '^The tour is over\.' "$folder/tour.log" || exit 1
+fail() {
+  echo "The tour is lost: $1"
+  import -window root "$folder/lost.png"
+  exit 1
+}
 
-if [ $print = yes ]; then
+shows() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+
+await() {
+  for _ in $(seq 150); do shows "$1" && sleep 0.2 && return; sleep 0.1; done
+  fail "no window named $1"
+}
+
+gone() {
+  for _ in $(seq 150); do shows "$1" || { sleep 0.2; return 0; }; sleep 0.1; done
+  fail "$1 does not close"
+}
+
+# Taken once the screen stands still, but for a blinking caret.
+picture() {
+  local last=$folder/last.png now=$folder/$1.png different
+  sleep 0.3
+  import -window root "$now"
+  for _ in $(seq 20); do
+    mv "$now" "$last"
+    sleep 0.4
+    import -window root "$now"
+    different=$(compare -metric AE "$last" "$now" null: 2>&1) || true
+    [ "${different%%.*}" -lt 100 ] && break
+  done
+  rm -f "$last"
+}
+click() { xdotool mousemove "$1" "$2" click 1; sleep 0.1; }
+key() { xdotool key --delay 30 "$@"; sleep 0.1; }
+write() { xdotool type --delay 12 -- "$1"; }
+
+# Scrolls so that a place of the canvas can be seen: from the top, 56 pixels a notch. Over the margin,
+# because Wine's edits keep the wheel to themselves.
+reach() {
+  local wanted=$(($1 < 560 ? 0 : ($1 - 250) / 56))
+  if [ $((wanted * 56)) -ne $scroll ]; then
+    xdotool mousemove $((client_x + 30)) $((canvas_y + 100))
+    [ $scroll -eq 0 ] || xdotool click --repeat $((scroll / 56 + 1)) --delay 8 4
+    [ $wanted -eq 0 ] || xdotool click --repeat $wanted --delay 8 5
+    scroll=$((wanted * 56 > 1334 ? 1334 : wanted * 56))
+    sleep 0.4
+  fi
+}
+
+press() { reach "$2"; click $((canvas_x + $1)) $((canvas_y + $2 - scroll)); }
+bar() { click $((client_x + 20 + $1)) $((client_y + 174 + $2)); }
+
+# A field by the top left corner of its box, and what is typed into it over what was there.
+field() {
+  press $(($1 + 12)) $(($2 + 12))
+  key Home shift+End
+  write "$3"
+}
+
+fields() {
+  local x y text
+  while read -r x y text; do field "$x" "$y" "$text"; done
+}
+
+# The item dialog, by keyboard: item, where, diagnosis, code, quantity, charge.
+item() {
+  press 60 1332
+  await '^Expected Item'
+  local first=1 cell
+  for cell in "$1" "$2" "$3" '' "$4" "$5" "$6"; do
+    [ $first = 1 ] || key Tab
+    first=0
+    [ -z "$cell" ] || write "$cell"
+  done
+  [ -z "${7:-}" ] || picture "$7"
+  key Return
+  gone '^Expected Item'
+}
+
+answer() {
+  await "$1"
+  [ -z "${2:-}" ] || picture "$2"
+  key Return
+  gone "$1"
+}
+
+preview() {
+  press 80 1898
+  await '^Print Preview'
+  picture "$1"
+  click 670 99
+  picture "$2"
+  key alt+F4
+  gone '^Print Preview'
+}
+
+# A lookup: its title, what is searched for, the picture; a double click takes the first row.
+choose() {
+  await "$1"
+  write "$2"
+  picture "$3"
+  xdotool mousemove 620 406 click --repeat 2 --delay 60 1
+  gone "$1"
+}
+
+fill_form() {
+  fields <<'FIELDS'
+28 86 Ann
+316 86 Marie
+604 86 Lee-Svensson
+28 134 02/29/1984
+316 134 (555) 555-0123
+604 134 ann@lee
+28 182 12 Oak Street
+28 230 Apt 4
+316 230 Springfield
+604 230 IL
+28 278 62701-1234
+316 278 0042
+28 418 Prairie Orthopedic & Sports Clinic
+600 418 Outpatient surgery center
+28 466 400 Capitol Avenue
+28 514 Springfield
+316 514 IL
+604 514 62704
+28 562 Pat Morgan
+316 562 (555) 555-0177
+604 562 estimates@prairie.example
+28 610 123-456-7890
+316 610 12-3456789
+604 610 www.prairie.example
+316 903 Knee arthroscopy with meniscus repair
+28 951 Tear of medial meniscus
+316 951 S83.242A
+604 951 Knee pain
+28 999 M25.562
+316 999 12/14/2026; 12/21/2026
+28 1699 Bring a list of your medicines. The anesthesiologist bills separately.
+FIELDS
+  press 700 780
+  key Down Return
+  picture 02-form-middle
+}
+
+add_items() {
+  item "Surgeon's fee, arthroscopy" '400 Capitol Avenue' S83.242A 29882 1 '$4,150' 03-item-dialog
+  item 'Facility fee' '400 Capitol Avenue' S83.242A 29882 1 6200.00
+  item 'MRI, knee, without contrast' 'Prairie Imaging, 410 Capitol Avenue' M25.562 73721 1 890.50
+  item 'Physical therapy, 30 minutes' 'Prairie Therapy' M25.562 97110 12 62.5
+  item 'Crutches, adjustable aluminium, pair, with hand grips and tips' '' '' E0114 1 48
+  item 'Office visit, established patient' '400 Capitol Avenue' M25.562 99213 2 145
+  item 'Post-operative brace' '' S83.242A L1832 1 615
+  press 60 1592
+  await '^Separately'
+  write Anesthesia
+  key Tab
+  write 'Capital Anesthesia Group gives its own estimate: (555) 555-0190.'
+  picture 04-separate-dialog
+  key Tab Return
+  gone '^Separately'
+  picture 05-lists
+}
+
+save_with_a_wrong_field() {
+  bar 188 35
+  answer '^Saved$'
+  reach 0
+  picture 06-wrong-field-marked
+  press 80 1898
+  answer '^Check Estimate$' 07-check-estimate
+  field 604 134 ann.lee@example.com
+}
+
+print_estimate() {
+  press 180 1898
+  await '^Print$'
+  picture 10-print-dialog
+  key Return
+  gone '^Print$'
   # The job is in the spooler when the program goes on; the file follows a little later.
-  for _ in $(seq 100); do
-    pdf=$(find ~/PDF -name '*Good_Faith_Estimate*.pdf' -newer "$folder/started" 2>/dev/null | head -n 1)
+  local pdf
+  for _ in $(seq 150); do
+    pdf=$(find ~/PDF -name '*Good_Faith_Estimate*.pdf' -newer "$folder/started" 2>/dev/null |
+      head -n 1)
     [ -n "$pdf" ] && pdfinfo "$pdf" >/dev/null 2>&1 && break
     sleep 0.2
   done
-  [ -n "$pdf" ] || { echo "The printed PDF did not appear."; exit 1; }
+  [ -n "$pdf" ] || fail "the printed PDF does not appear"
   mv "$pdf" "$folder/estimate.pdf"
   pdftoppm -r 96 -png "$folder/estimate.pdf" "$folder/printed"
-fi
+}
+
+# An issued estimate, saved, edited and saved again, becomes a revision.
+revise() {
+  bar 188 35
+  answer '^Saved$'
+  field 316 903 'Knee arthroscopy with meniscectomy'
+  bar 188 35
+  answer '^Saved$' 11-revision-saved
+}
+
+sample() {
+  bar 690 30
+  answer '^Sample$'
+  reach 0
+  picture 12-sample
+  preview 13-sample-page-1 14-sample-page-2
+}
+
+lookups() {
+  bar 40 35
+  press 790 37
+  choose '^Patient Lookup' svenss 15-patient-lookup
+  press 790 365
+  choose '^Provider Lookup' prairie 16-provider-lookup
+  reach 0
+  picture 17-patient-and-provider-copied
+}
+
+open_again() {
+  bar 112 35
+  await '^Open Saved'
+  picture 18-open
+  key Escape
+  gone '^Open Saved'
+  bar 112 35
+  choose '^Open Saved' -r1 19-open-search
+  picture 20-opened
+  bar 112 35
+  choose '^Open Saved' 20240229 21-older-edition-search
+  reach 903
+  picture 22-older-edition-opened
+}
+
+about() {
+  bar 895 30
+  await '^About'
+  picture 23-about
+  key Escape
+  gone '^About'
+}
+
+prepare_store() {
+  local base
+  base=$(wine cmd /c 'echo %LOCALAPPDATA%' 2>/dev/null | tr -d '\r')
+  base=$(winepath -u "$base" 2>/dev/null)/NORVAK/Tessaline
+  store=$base/Estimates
+  mkdir -p "$store"
+  rm -f "$store"/*.gfe
+  cp "$data/legacy-data.key" "$base/data.key"
+  cp "$data/legacy-estimate.gfe" "$store/older.gfe"
+}
+
+rm -rf "$folder"
+mkdir -p "$folder"
+touch "$folder/started"
+prepare_store
+wine "$program" >/dev/null 2>&1 &
+await '^Tessaline'
+picture 01-start
+fill_form
+add_items
+save_with_a_wrong_field
+preview 08-preview-page-1 09-preview-page-2
+if start_printer; then print_estimate; else echo "No CUPS here: the tour does not print."; fi
+revise
+sample
+lookups
+open_again
+about
+key alt+F4
+gone '^Tessaline'
+wait $!
+[ "$(ls "$store" | wc -l)" -eq 3 ] || fail "the store should hold an estimate, its revision and the older file"
 rm "$folder/started"
-echo "Pictures are in $folder"
+echo "The tour is over. Its pictures are in $folder"

@@ -130,10 +130,11 @@ void BuildControls(HWND window, DialogState<Row>& state) {
     int id = 1;
     for (const DialogField& field : state.kind->fields) {
         MakeLabel(window, field.label, field.labelBox, CurrentTheme().labelFont.Get());
-        state.controls[static_cast<std::size_t>(id)] =
-            field.entries.empty() ? MakeEdit(window, id, field.fieldBox, field.extraStyle)
-                                  : MakeChoice(window, id, field.fieldBox, field.entries);
-        ++id;
+        const HWND control = field.entries.empty()
+                                 ? MakeEdit(window, id, field.fieldBox, field.extraStyle)
+                                 : MakeChoice(window, id, field.fieldBox, field.entries);
+        if ((field.extraStyle & ES_MULTILINE) != 0) LeaveKeysToDialog(control);
+        state.controls[static_cast<std::size_t>(id++)] = control;
     }
     MakeButton(window, kOkButton, L"OK", state.kind->ok, true);
     MakeButton(window, kCancelButton, L"Cancel", state.kind->cancel);
