@@ -81,6 +81,8 @@ void DrawParties(HDC dc, const PageTransform& transform, const Estimate& estimat
 
 void DrawCareOverview(HDC dc, const PageTransform& transform, const Estimate& estimate,
                       bool printMode) {
+    // The pairs are 49 high but 41 apart: the second line of a long value runs into the label
+    // below. The positions are fixed, so it does.
     DrawSectionBox(dc, transform, {42, 376, 732, 112}, L"Care Overview", printMode);
     DrawLabeledValue(dc, transform, L"Primary service / item", estimate.PrimaryService, 55, 410,
                      330, printMode);

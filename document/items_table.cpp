@@ -46,12 +46,12 @@ constexpr UINT kRightCell = DT_SINGLELINE | DT_VCENTER | DT_RIGHT;
 
 // clang-format off
 constexpr Column kColumns[] = {
-    {L"Service / Item & Location", 50, 250, DT_WORDBREAK, 245, 0,           kNormal, nullptr},
-    {L"Diagnosis",                305,  83, DT_WORDBREAK,  83, kLeftCell,   kNormal, DiagnosisCell},
-    {L"Code",                     393,  88, DT_WORDBREAK,  88, kLeftCell,   kNormal, CodeText},
-    {L"Qty",                      486,  40, DT_CENTER,     40, kCentreCell, kNormal, QuantityCell},
-    {L"Charge",                   531, 105, DT_RIGHT,     105, kRightCell,  kNormal, ChargeCell},
-    {L"Total",                    641, 124, DT_RIGHT,     124, kRightCell,  kBold,   TotalCell},
+    {L"Service / Item & Location", 50, 250, DT_WORDBREAK, 245, 0, kNormal, nullptr},
+    {L"Diagnosis", 305,  83, DT_WORDBREAK,  83, kLeftCell,   kNormal, DiagnosisCell},
+    {L"Code",      393,  88, DT_WORDBREAK,  88, kLeftCell,   kNormal, CodeText},
+    {L"Qty",       486,  40, DT_CENTER,     40, kCentreCell, kNormal, QuantityCell},
+    {L"Charge",    531, 105, DT_RIGHT,     105, kRightCell,  kNormal, ChargeCell},
+    {L"Total",     641, 124, DT_RIGHT,     124, kRightCell,  kBold,   TotalCell},
 };
 // clang-format on
 

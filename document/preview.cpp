@@ -72,6 +72,8 @@ void PaintPreview(HWND window, const PreviewState& state) {
     const PageTransform transform = PreviewTransform(client.right, client.bottom);
     const RECT page = PageArea(transform);
 
+    // The page begins with a white background of its own, so neither this fill nor the outline
+    // stays to be seen. That is known and wanted: the sheet has no edge but its colour.
     const BrushOwner white(CreateSolidBrush(kPageBackground));
     FillRect(paint.Get(), &page, white.Get());
     FrameDeviceRect(paint.Get(), page, kPreviewOutline, 1);
