@@ -14,16 +14,17 @@ constexpr int kDeepestNesting = 512;
 
 constexpr std::size_t kHexDigits = 4;
 
-const JsonValue& NullValue() {
-    static const JsonValue null;
-    return null;
-}
-
 bool AtEnd(const JsonCursor& cursor) {
     return cursor.position >= cursor.text.size();
 }
 
-bool Take(JsonCursor& cursor, std::wstring_view expected) {
+bool Take(JsonCursor& cursor, wchar_t expected) {
+    if (AtEnd(cursor) || cursor.text[cursor.position] != expected) return false;
+    ++cursor.position;
+    return true;
+}
+
+bool TakeWord(JsonCursor& cursor, std::wstring_view expected) {
     if (!cursor.text.substr(cursor.position).starts_with(expected)) return false;
     cursor.position += expected.size();
     return true;
@@ -47,12 +48,14 @@ bool IsInNumber(wchar_t c) {
 template <typename Test>
 std::wstring_view TakeWhile(JsonCursor& cursor, Test test) {
     const std::size_t start = cursor.position;
-    while (!AtEnd(cursor) && test(cursor.text[cursor.position])) ++cursor.position;
-    return cursor.text.substr(start, cursor.position - start);
+    std::size_t end = start;
+    while (end < cursor.text.size() && test(cursor.text[end])) ++end;
+    cursor.position = end;
+    return cursor.text.substr(start, end - start);
 }
 
 void SkipSpace(JsonCursor& cursor) {
-    TakeWhile(cursor, IsSpace);
+    while (!AtEnd(cursor) && IsSpace(cursor.text[cursor.position])) ++cursor.position;
 }
 
 unsigned HexDigit(wchar_t c) {
@@ -63,7 +66,7 @@ unsigned HexDigit(wchar_t c) {
 }
 
 // The cursor stands behind "\u".
-void ParseCodeUnit(JsonCursor& cursor, std::wstring& text) {
+void ParseCodeUnit(JsonCursor& cursor, JsonText& text) {
     if (cursor.text.size() - cursor.position < kHexDigits) return;
     unsigned unit = 0;
     for (const wchar_t c : cursor.text.substr(cursor.position, kHexDigits)) {
@@ -74,7 +77,7 @@ void ParseCodeUnit(JsonCursor& cursor, std::wstring& text) {
 }
 
 // The cursor stands behind the backslash, and not at the end.
-void ParseEscape(JsonCursor& cursor, std::wstring& text) {
+void ParseEscape(JsonCursor& cursor, JsonText& text) {
     const wchar_t escaped = cursor.text[cursor.position++];
     switch (escaped) {
         case L'b':
@@ -101,12 +104,12 @@ void ParseEscape(JsonCursor& cursor, std::wstring& text) {
     }
 }
 
-bool ParseString(JsonCursor& cursor, std::wstring& text) {
-    if (!Take(cursor, L"\"")) return false;
+bool ParseString(JsonCursor& cursor, JsonText& text) {
+    if (!Take(cursor, L'"')) return false;
     for (;;) {
         text.append(TakeWhile(cursor, [](wchar_t c) { return c != L'"' && c != L'\\'; }));
-        if (Take(cursor, L"\"")) return true;
-        if (!Take(cursor, L"\\") || AtEnd(cursor)) return false;
+        if (Take(cursor, L'"')) return true;
+        if (!Take(cursor, L'\\') || AtEnd(cursor)) return false;
         ParseEscape(cursor, text);
     }
 }
@@ -114,24 +117,31 @@ bool ParseString(JsonCursor& cursor, std::wstring& text) {
 bool ParseNumber(JsonCursor& cursor, JsonValue& value) {
     const std::wstring_view run = TakeWhile(cursor, IsInNumber);
     if (run.empty()) return false;
-    value.kind = JsonKind::kNumber;
-    value.number = ReadDecimal(run);
+    value.content = ReadDecimal(run);
     return true;
 }
 
 bool ParseLiteral(JsonCursor& cursor, JsonValue& value) {
-    if (Take(cursor, L"null")) return true;
-    value.boolean = Take(cursor, L"true");
-    if (!value.boolean && !Take(cursor, L"false")) return false;
-    value.kind = JsonKind::kBoolean;
+    if (TakeWord(cursor, L"null")) return true;
+    const bool isTrue = TakeWord(cursor, L"true");
+    if (!isTrue && !TakeWord(cursor, L"false")) return false;
+    value.content = isTrue;
     return true;
 }
 
-bool ParseNested(JsonCursor& cursor, JsonValue& value, int levelsLeft);
+// Where a value stands: what it may take memory from, and how many levels may open below it.
+struct Place {
+    std::pmr::memory_resource* memory;
+    int levelsLeft;
+
+    [[nodiscard]] Place Below() const { return {memory, levelsLeft - 1}; }
+};
+
+bool ParseNested(JsonCursor& cursor, JsonValue& value, Place place);
 
 // From the opening to the closing bracket of an object or array.
 template <typename ParseElement>
-bool ParseElements(JsonCursor& cursor, std::wstring_view close, ParseElement parseElement) {
+bool ParseElements(JsonCursor& cursor, wchar_t close, ParseElement parseElement) {
     ++cursor.position;
     SkipSpace(cursor);
     if (Take(cursor, close)) return true;
@@ -139,43 +149,42 @@ bool ParseElements(JsonCursor& cursor, std::wstring_view close, ParseElement par
         if (!parseElement()) return false;
         SkipSpace(cursor);
         if (Take(cursor, close)) return true;
-    } while (Take(cursor, L","));
+    } while (Take(cursor, L','));
     return false;
 }
 
-bool ParseMember(JsonCursor& cursor, JsonValue& object, int levelsLeft) {
-    std::wstring key;
+bool ParseMember(JsonCursor& cursor, JsonMembers& members, Place place) {
+    JsonText key(place.memory);
     SkipSpace(cursor);
     if (!ParseString(cursor, key)) return false;
     SkipSpace(cursor);
-    if (!Take(cursor, L":")) return false;
-    const auto [member, isNew] = object.members.try_emplace(std::move(key));
+    if (!Take(cursor, L':')) return false;
+    const auto [member, isNew] = members.try_emplace(std::move(key));
     JsonValue dropped;
-    return ParseNested(cursor, isNew ? member->second : dropped, levelsLeft);
+    return ParseNested(cursor, isNew ? member->second : dropped, place);
 }
 
-bool ParseObject(JsonCursor& cursor, JsonValue& value, int levelsLeft) {
-    value.kind = JsonKind::kObject;
-    return ParseElements(cursor, L"}", [&] { return ParseMember(cursor, value, levelsLeft); });
+bool ParseObject(JsonCursor& cursor, JsonValue& value, Place place) {
+    auto& members = value.content.emplace<JsonMembers>(place.memory);
+    return ParseElements(cursor, L'}', [&] { return ParseMember(cursor, members, place); });
 }
 
-bool ParseArray(JsonCursor& cursor, JsonValue& value, int levelsLeft) {
-    value.kind = JsonKind::kArray;
-    return ParseElements(
-        cursor, L"]", [&] { return ParseNested(cursor, value.items.emplace_back(), levelsLeft); });
+bool ParseArray(JsonCursor& cursor, JsonValue& value, Place place) {
+    auto& items = value.content.emplace<JsonItems>(place.memory);
+    return ParseElements(cursor, L']',
+                         [&] { return ParseNested(cursor, items.emplace_back(), place); });
 }
 
-bool ParseNested(JsonCursor& cursor, JsonValue& value, int levelsLeft) {
+bool ParseNested(JsonCursor& cursor, JsonValue& value, Place place) {
     SkipSpace(cursor);
     if (AtEnd(cursor)) return false;
     switch (cursor.text[cursor.position]) {
         case L'{':
-            return levelsLeft > 0 && ParseObject(cursor, value, levelsLeft - 1);
+            return place.levelsLeft > 0 && ParseObject(cursor, value, place.Below());
         case L'[':
-            return levelsLeft > 0 && ParseArray(cursor, value, levelsLeft - 1);
+            return place.levelsLeft > 0 && ParseArray(cursor, value, place.Below());
         case L'"':
-            value.kind = JsonKind::kString;
-            return ParseString(cursor, value.text);
+            return ParseString(cursor, value.content.emplace<JsonText>(place.memory));
         default:
             return ParseLiteral(cursor, value) || ParseNumber(cursor, value);
     }
@@ -183,18 +192,22 @@ bool ParseNested(JsonCursor& cursor, JsonValue& value, int levelsLeft) {
 
 }  // namespace
 
-bool ParseValue(JsonCursor& cursor, JsonValue& value) {
+bool ParseValue(JsonCursor& cursor, JsonValue& value, std::pmr::memory_resource* memory) {
     value = {};
-    return ParseNested(cursor, value, kDeepestNesting);
+    return ParseNested(cursor, value, {memory, kDeepestNesting});
 }
 
 const JsonValue& Member(const JsonValue& value, std::wstring_view key) {
-    const auto member = value.members.find(key);
-    return member == value.members.end() ? NullValue() : member->second;
+    static const JsonValue null;
+    const auto* members = std::get_if<JsonMembers>(&value.content);
+    if (members == nullptr) return null;
+    const auto member = members->find(key);
+    return member == members->end() ? null : member->second;
 }
 
-const std::wstring& AsString(const JsonValue& value) {
-    return value.kind == JsonKind::kString ? value.text : NullValue().text;
+std::wstring_view AsString(const JsonValue& value) {
+    const auto* text = std::get_if<JsonText>(&value.content);
+    return text == nullptr ? std::wstring_view() : *text;
 }
 
 }  // namespace tessaline

@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory_resource>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace tessaline {
@@ -21,14 +23,17 @@ enum class JsonKind : std::int32_t {
     kArray = 5,
 };
 
-/// One value with everything in it. Only the field that belongs to its kind is filled.
+struct JsonValue;
+using JsonText = std::pmr::wstring;
+using JsonMembers = std::pmr::map<JsonText, JsonValue, std::less<>>;  ///< by code units
+using JsonItems = std::pmr::vector<JsonValue>;
+
+/// One value with everything in it. A new copy is deep, and lives in the common heap.
 struct JsonValue {
-    JsonKind kind = JsonKind::kNull;
-    bool boolean = false;
-    double number = 0.0;
-    std::wstring text;
-    std::map<std::wstring, JsonValue, std::less<>> members;  ///< by code units
-    std::vector<JsonValue> items;
+    /// In the order of the kinds.
+    std::variant<std::monostate, bool, double, JsonText, JsonMembers, JsonItems> content;
+
+    [[nodiscard]] JsonKind Kind() const { return static_cast<JsonKind>(content.index()); }
 
     // Not every library's map says that it moves without throwing. A growing vector would then
     // copy whole trees, once for every level above them.
@@ -48,7 +53,8 @@ struct JsonCursor {
 
 /// Reads the value at the cursor, after white space, and steps past it; what follows is left
 /// alone. On false the text is no such value, ends too early or nests deeper than 512 levels, and
-/// `value` is only partly filled.
+/// `value` is only partly filled. Whatever the value owns is taken from `memory`, which must
+/// outlive it.
 ///
 /// Lenient where the older edition was: white space is whatever the C library calls so; nothing
 /// needs to stand between a literal and what follows; a number is any run of digits, signs, points
@@ -56,12 +62,14 @@ struct JsonCursor {
 /// control characters; an unknown escape stands for its character; "\u" takes any four characters,
 /// those that are no hexadecimal digits as 0, and loses its "u" when the text has fewer left;
 /// surrogates need no partner; of equal keys the first counts.
-[[nodiscard]] bool ParseValue(JsonCursor& cursor, JsonValue& value);
+[[nodiscard]] bool ParseValue(
+    JsonCursor& cursor, JsonValue& value,
+    std::pmr::memory_resource* memory = std::pmr::get_default_resource());
 
 /// The member called exactly `key`; a null value when there is none or `value` is no object.
 [[nodiscard]] const JsonValue& Member(const JsonValue& value, std::wstring_view key);
 
 /// The text of a string, empty for every other kind.
-[[nodiscard]] const std::wstring& AsString(const JsonValue& value);
+[[nodiscard]] std::wstring_view AsString(const JsonValue& value);
 
 }  // namespace tessaline

@@ -1,28 +1,25 @@
 #include "legacy/legacy_file.h"
 
+#include <windows.h>
+
+#include "legacy/document_memory.h"
 #include "legacy/json.h"
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_mapping.h"
 #include "platform/files.h"
-#include "platform/utf8.h"
 
 namespace tessaline {
 namespace {
 
-// A document in clear, wiped when it ends.
-struct WideDocument {
-    explicit WideDocument(ByteView utf8) : text(FromUtf8(utf8)) {}
-    WideDocument(const WideDocument&) = delete;
-    WideDocument& operator=(const WideDocument&) = delete;
-    ~WideDocument() { WipeMemory(text.data(), text.size() * sizeof(wchar_t)); }
-
-    std::wstring text;
-};
-
-bool ParseDocument(ByteView utf8, JsonValue& root) {
-    const WideDocument document(utf8);
-    JsonCursor cursor{document.text};
-    return ParseValue(cursor, root);
+// The text of a document, ill-formed UTF-8 replaced by U+FFFD.
+std::wstring_view WideText(ByteView utf8, DocumentMemory& memory) {
+    // No byte becomes more than one code unit.
+    auto* text = static_cast<wchar_t*>(
+        memory.Get()->allocate(utf8.size() * sizeof(wchar_t), alignof(wchar_t)));
+    const int size = static_cast<int>(utf8.size());
+    const int length = MultiByteToWideChar(CP_UTF8, 0, reinterpret_cast<const char*>(utf8.data()),
+                                           size, text, size);
+    return {text, static_cast<std::size_t>(length)};
 }
 
 }  // namespace
@@ -31,8 +28,10 @@ bool OpenLegacyEstimateFile(const std::wstring& path, const LocalStore& store, E
                             std::wstring& error) {
     const SecretBytes plaintext = DecryptLegacyFile(ReadFileBytes(path), store, error);
     if (plaintext.empty()) return false;
+    DocumentMemory memory;
     JsonValue root;
-    if (!ParseDocument(plaintext, root)) {
+    JsonCursor cursor{WideText(plaintext, memory)};
+    if (!ParseValue(cursor, root, memory.Get())) {
         error = L"Could not parse the legacy estimate data.";
         return false;
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "model/estimate_fields.h"
@@ -15,12 +16,19 @@ namespace {
 template <typename Record>
 void AssignFields(Record& record, const JsonValue& object);
 
+// The number or flag that a value is; 0 or false when it is something else.
+template <typename Scalar>
+Scalar ScalarOf(const JsonValue& value) {
+    const auto* scalar = std::get_if<Scalar>(&value.content);
+    return scalar == nullptr ? Scalar() : *scalar;
+}
+
 void Assign(std::wstring& field, const JsonValue& value) {
     field = AsString(value);
 }
 
 void Assign(std::int32_t& field, const JsonValue& value) {
-    field = value.kind == JsonKind::kNumber ? TruncateToInt32(value.number) : 0;
+    field = TruncateToInt32(ScalarOf<double>(value));
 }
 
 // The record's 64-bit integers are its time stamps.
@@ -29,11 +37,11 @@ void Assign(std::int64_t& field, const JsonValue& value) {
 }
 
 void Assign(double& field, const JsonValue& value) {
-    field = value.kind == JsonKind::kNumber ? value.number : 0.0;
+    field = ScalarOf<double>(value);
 }
 
 void Assign(bool& field, const JsonValue& value) {
-    field = value.kind == JsonKind::kBoolean && value.boolean;
+    field = ScalarOf<bool>(value);
 }
 
 void Assign(PatientInfo& patient, const JsonValue& value) {
@@ -49,8 +57,10 @@ void Assign(ProviderInfo& provider, const JsonValue& value) {
 
 template <typename Record>
 void Assign(std::vector<Record>& list, const JsonValue& value) {
-    list.reserve(list.size() + value.items.size());
-    for (const JsonValue& item : value.items) AssignFields(list.emplace_back(), item);
+    const auto* items = std::get_if<JsonItems>(&value.content);
+    if (items == nullptr) return;
+    list.reserve(list.size() + items->size());
+    for (const JsonValue& item : *items) AssignFields(list.emplace_back(), item);
 }
 
 template <typename Record>
@@ -71,22 +81,21 @@ constexpr TimePart kTimeParts[] = {
     {L'\0', 1601, 30827}, {L'-', 1, 12}, {L'-', 1, 31},
     {L'T', 0, 23},        {L':', 0, 59}, {L':', 0, 59},
 };
-constexpr std::size_t kDateParts = 3;
-
 using TimeParts = std::array<std::int32_t, std::size(kTimeParts)>;
 
-// How many parts stand at the front of `text`. The others are left as they are.
-std::size_t ScanTime(std::wstring_view text, TimeParts& parts) {
-    for (std::size_t count = 0; count < parts.size(); ++count) {
-        if (count > 0) {
-            if (!text.starts_with(kTimeParts[count].separator)) return count;
+// The parts at the front of `text`, 0 for those that are not there.
+TimeParts ScanTime(std::wstring_view text) {
+    TimeParts parts{};
+    for (std::size_t at = 0; at < parts.size(); ++at) {
+        if (at > 0) {
+            if (!text.starts_with(kTimeParts[at].separator)) break;
             text.remove_prefix(1);
         }
         const auto number = TakeInteger(text);
-        if (!number) return count;
-        parts[count] = *number;
+        if (!number) break;
+        parts[at] = *number;
     }
-    return parts.size();
+    return parts;
 }
 
 bool InBounds(const TimeParts& parts) {
@@ -99,15 +108,16 @@ bool InBounds(const TimeParts& parts) {
 }  // namespace
 
 bool MapLegacyEstimate(const JsonValue& root, Estimate& estimate) {
-    if (root.kind != JsonKind::kObject) return false;
+    if (root.Kind() != JsonKind::kObject) return false;
     AssignFields(estimate, root);
     return !estimate.EstimateId.empty();
 }
 
 std::int64_t ParseLegacyTime(std::wstring_view text) {
     using namespace std::chrono;
-    TimeParts parts{};
-    if (ScanTime(text, parts) < kDateParts || !InBounds(parts)) return 0;
+    const TimeParts parts = ScanTime(text);
+    // A date that is not there in full has a month or a day of 0.
+    if (!InBounds(parts)) return 0;
     const auto [yearNumber, monthNumber, dayNumber, hour, minute, second] = parts;
     const year_month_day date(year(yearNumber), month(static_cast<unsigned>(monthNumber)),
                               day(static_cast<unsigned>(dayNumber)));

@@ -13,6 +13,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool parsed = ParseValue(cursor, value);
     if (cursor.position > text.size()) std::abort();
     const JsonValue copy = value;
-    if (parsed && copy.kind != value.kind) std::abort();
+    if (parsed && copy.Kind() != value.Kind()) std::abort();
     return 0;
 }
