@@ -22,10 +22,9 @@ namespace tessaline {
 /// exists afterwards.
 bool EnsureFolder(const std::wstring& path);
 
-/// Calls `visit(name)` for every file (no folder) in `folder` whose name matches `pattern`, such
-/// as
-/// "*.gfe", by Windows' own matching rules and in Windows' order, until `visit` returns false. A
-/// folder that cannot be listed has no files.
+/// Calls `visit(name)` for every file (no folder) in `folder` whose name matches `pattern`, by
+/// Windows' own rules and in Windows' order, until `visit` returns false. A folder that cannot be
+/// listed has no files.
 void ForEachFile(const std::wstring& folder, const std::wstring& pattern,
                  const std::function<bool(const std::wstring& name)>& visit);
 

@@ -7,32 +7,38 @@
 namespace tessaline {
 namespace {
 
-// Nearly every text is ASCII, where a unit of UTF-16 is a byte of UTF-8. Looking for that first
-// makes the whole several times as fast as asking Windows for every text.
-template <typename Units>
-bool IsAscii(const Units& units) {
+// Nearly every text is ASCII, where a unit of UTF-16 is a byte of UTF-8. Widening and narrowing
+// those here makes the whole several times as fast as asking Windows for every text.
+bool IsAscii(ByteView utf8) {
     unsigned seen = 0;
-    for (const auto unit : units) seen |= static_cast<unsigned>(unit);
+    for (const std::uint8_t byte : utf8) seen |= byte;
     return seen < 0x80;
 }
 
 }  // namespace
 
+std::size_t Utf8Room(std::wstring_view text) {
+    std::size_t room = text.size();
+    for (const wchar_t unit : text) {
+        room += static_cast<std::size_t>(unit >= 0x80) + static_cast<std::size_t>(unit >= 0x800);
+    }
+    return room;
+}
+
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
     const std::size_t start = bytes.size();
-    if (IsAscii(text)) {
-        bytes.resize(start + text.size());
+    const std::size_t room = Utf8Room(text);
+    bytes.resize(start + room);
+    if (room == text.size()) {
         std::transform(text.begin(), text.end(),
                        bytes.begin() + static_cast<std::ptrdiff_t>(start),
                        [](wchar_t unit) { return static_cast<std::uint8_t>(unit); });
         return;
     }
-    // No unit of UTF-16 takes more than three bytes.
-    bytes.resize(start + 3 * text.size());
-    const int written = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                            reinterpret_cast<char*>(bytes.data() + start),
-                                            static_cast<int>(3 * text.size()), nullptr, nullptr);
-    bytes.resize(start + static_cast<std::size_t>(written));
+    char* target = reinterpret_cast<char*>(bytes.data() + start);
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         target, static_cast<int>(room), nullptr, nullptr);
+    bytes.resize(start + static_cast<std::size_t>(size));
 }
 
 std::wstring FromUtf8(ByteView utf8) {

@@ -2,6 +2,7 @@
 // is ill-formed is replaced by U+FFFD, never refused.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,9 @@
 #include "platform/secret_bytes.h"
 
 namespace tessaline {
+
+/// How many bytes the UTF-8 form of `text` takes at most; for ASCII, exactly.
+[[nodiscard]] std::size_t Utf8Room(std::wstring_view text);
 
 /// Appends the UTF-8 form of `text` to `bytes`, without a terminator.
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text);

@@ -14,22 +14,6 @@ namespace {
 
 constexpr wchar_t kEstimateFiles[] = L"*.gfe";
 
-// Sorts positions and moves each entry once; an entry has some fifty strings to move.
-std::vector<SavedEstimateEntry> NewestFirst(std::vector<SavedEstimateEntry> entries) {
-    std::vector<std::pair<std::int64_t, std::size_t>> order;
-    order.reserve(entries.size());
-    for (const SavedEstimateEntry& entry : entries) {
-        order.emplace_back(entry.Record.LastModifiedOn, order.size());
-    }
-    std::sort(order.begin(), order.end(), [](const auto& left, const auto& right) {
-        return left.first != right.first ? left.first > right.first : left.second < right.second;
-    });
-    std::vector<SavedEstimateEntry> sorted;
-    sorted.reserve(entries.size());
-    for (const auto& [stamp, position] : order) sorted.push_back(std::move(entries[position]));
-    return sorted;
-}
-
 // What makes two patients one; none for a patient without a name, who is not listed.
 std::optional<std::wstring> KeyOf(const PatientInfo& patient) {
     const std::wstring first = Trim(patient.FirstName);
@@ -88,7 +72,11 @@ std::vector<SavedEstimateEntry> LoadAllEstimates(const LocalStore& store) {
         }
         return true;
     });
-    return NewestFirst(std::move(entries));
+    std::sort(entries.begin(), entries.end(),
+              [](const SavedEstimateEntry& left, const SavedEstimateEntry& right) {
+                  return left.Record.LastModifiedOn > right.Record.LastModifiedOn;
+              });
+    return entries;
 }
 
 bool HasLegacyFiles(const LocalStore& store) {

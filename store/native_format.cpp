@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 #include <vector>
 
 #include "model/estimate_fields.h"
@@ -17,6 +18,7 @@ static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
 
 constexpr std::array<std::uint8_t, 4> kMagic = {'G', 'F', 'E', 'D'};
 constexpr std::uint32_t kVersion = 1;
+constexpr std::size_t kHead = kMagic.size() + sizeof(kVersion);
 constexpr std::uint32_t kMostElements = 1000;
 constexpr std::uint32_t kLongestText = 16 * 1024 * 1024;  // bytes
 
@@ -148,13 +150,27 @@ class Reader {
     const wchar_t* badCount_ = nullptr;
 };
 
-// Enough for most records, so that their bytes are not moved, and wiped, while they are written.
-std::size_t LikelySize(const Estimate& estimate) {
-    return 2048 + 256 * (estimate.Lines.size() + estimate.SeparateItems.size());
+// The bytes that a value takes, or a few more: with this much reserved the payload is not moved,
+// and wiped, while it is written.
+template <typename Value>
+std::size_t RoomFor(const Value& value) {
+    if constexpr (std::is_same_v<Value, std::wstring>) {
+        return sizeof(std::uint32_t) + Utf8Room(value);
+    } else if constexpr (std::is_arithmetic_v<Value>) {
+        return sizeof(Value);
+    } else if constexpr (HasFields<Value>) {
+        std::size_t room = 0;
+        ForEachField(value,
+                     [&room](const wchar_t*, const auto& field) { room += RoomFor(field); });
+        return room;
+    } else {
+        std::size_t room = sizeof(std::uint32_t);
+        for (const auto& element : value) room += RoomFor(element);
+        return room;
+    }
 }
 
 const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
-    constexpr std::size_t kHead = kMagic.size() + sizeof(kVersion);
     if (payload.size() < kHead || !std::equal(kMagic.begin(), kMagic.end(), payload.begin())) {
         return L"The estimate file is not a native GFE file.";
     }
@@ -169,7 +185,7 @@ const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
 
 SecretBytes WriteNativeEstimate(const Estimate& estimate) {
     SecretBytes bytes(kMagic.begin(), kMagic.end());
-    bytes.reserve(LikelySize(estimate));
+    bytes.reserve(kHead + RoomFor(estimate) + RoomFor(estimate.ReservedFlag));
     Writer writer(bytes);
     writer.Put(kVersion);
     writer.Put(estimate);

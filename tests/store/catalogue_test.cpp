@@ -15,43 +15,31 @@ Bytes Text(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-struct PatientRow {
-    const wchar_t *first, *last, *birth, *phone;
-    std::int64_t modified;
-};
-
-struct ProviderRow {
-    const wchar_t *name, *npi, *street, *city, *state, *phone;
-    std::int64_t modified;
-};
-
-Estimate Of(const PatientRow& row) {
+// An estimate with that patient; the phone number tells which.
+Estimate OfPatient(const wchar_t* first, const wchar_t* last, const wchar_t* birth,
+                   const wchar_t* phone, std::int64_t modified) {
     Estimate estimate;
-    estimate.Patient.FirstName = row.first;
-    estimate.Patient.LastName = row.last;
-    estimate.Patient.DateOfBirth = row.birth;
-    estimate.Patient.Phone = row.phone;
-    estimate.LastModifiedOn = row.modified;
+    estimate.Patient.FirstName = first;
+    estimate.Patient.LastName = last;
+    estimate.Patient.DateOfBirth = birth;
+    estimate.Patient.Phone = phone;
+    estimate.LastModifiedOn = modified;
     return estimate;
 }
 
-Estimate Of(const ProviderRow& row) {
+Estimate OfProvider(const wchar_t* name, const wchar_t* npi, const wchar_t* street,
+                    const wchar_t* city, const wchar_t* state, const wchar_t* phone,
+                    std::int64_t modified) {
     Estimate estimate;
-    estimate.Provider.OrganizationName = row.name;
-    estimate.Provider.Npi = row.npi;
-    estimate.Provider.Street = row.street;
-    estimate.Provider.City = row.city;
-    estimate.Provider.State = row.state;
-    estimate.Provider.Phone = row.phone;
-    estimate.LastModifiedOn = row.modified;
+    estimate.Provider = {name, L"", street, city, state, L"", L"", phone, L"", npi, L"", L""};
+    estimate.LastModifiedOn = modified;
     return estimate;
 }
 
-template <typename Row>
-void PutAll(const TemporaryStore& store, std::initializer_list<Row> rows) {
+void PutAll(const TemporaryStore& store, std::initializer_list<Estimate> estimates) {
     int count = 0;
-    for (const Row& row : rows) {
-        store.PutEstimate(std::to_wstring(++count) + L".gfe", Of(row));
+    for (const Estimate& estimate : estimates) {
+        store.PutEstimate(std::to_wstring(++count) + L".gfe", estimate);
     }
 }
 
@@ -64,14 +52,6 @@ std::wstring Told(const std::vector<Summary>& list, Block Summary::*block) {
                 std::to_wstring(summary.EstimateCount) + L"; ";
     }
     return told;
-}
-
-std::wstring Patients(const TemporaryStore& store) {
-    return Told(BuildPatientList(store), &PatientSummary::Patient);
-}
-
-std::wstring Providers(const TemporaryStore& store) {
-    return Told(BuildProviderList(store), &ProviderSummary::Provider);
 }
 
 }  // namespace
@@ -90,14 +70,10 @@ TEST_CASE("A folder that is empty or missing gives empty lists") {
 
 TEST_CASE("Estimates come newest first, each with the path of its file") {
     const TemporaryStore store;
-    struct Row {
-        const wchar_t* name;
-        int seed;
-    };
-    for (const Row& row :
-         {Row{L"b.gfe", 300}, {L"a.GFE", 900}, {L"c.gfe", -500}, {L"d.gfe", 600}}) {
-        store.PutEstimate(row.name, DistinctEstimate(row.seed));
-    }
+    store.PutEstimate(L"b.gfe", DistinctEstimate(300));
+    store.PutEstimate(L"a.GFE", DistinctEstimate(900));
+    store.PutEstimate(L"c.gfe", DistinctEstimate(-500));
+    store.PutEstimate(L"d.gfe", DistinctEstimate(600));
     store.PutEstimate(L"e.gfx", DistinctEstimate(700));
     std::wstring paths;
     for (const SavedEstimateEntry& entry : LoadAllEstimates(store)) {
@@ -140,45 +116,39 @@ TEST_CASE("Older files are known by their first four bytes, readable or not") {
 
 TEST_CASE("Patients are told apart by name and date of birth as typed") {
     const TemporaryStore store;
-    PutAll<PatientRow>(store, {
-                                  {L"Ann", L"Lee", L"01/02/1990", L"old", 100},
-                                  {L" ANN", L"lee\t", L" 01/02/1990", L"new", 300},
-                                  {L"ann", L"Lee", L"01/02/1990", L"older", 50},
-                                  {L"Ann", L"Lee", L"1/2/1990", L"other date", 200},
-                                  {L"", L"Lee", L"01/02/1990", L"no first", 250},
-                                  {L"Lee", L"", L"01/02/1990", L"no last", 260},
-                                  {L" ", L"\t", L"01/02/1990", L"nameless", 400},
-                                  {L"Bo", L"Fox", L"", L"before 1970", -5},
-                              });
-    CHECK(Patients(store) ==
+    PutAll(store, {OfPatient(L"Ann", L"Lee", L"01/02/1990", L"old", 100),
+                   OfPatient(L" ANN", L"lee\t", L" 01/02/1990", L"new", 300),
+                   OfPatient(L"ann", L"Lee", L"01/02/1990", L"older", 50),
+                   OfPatient(L"Ann", L"Lee", L"1/2/1990", L"other date", 200),
+                   OfPatient(L"", L"Lee", L"01/02/1990", L"no first", 250),
+                   OfPatient(L"Lee", L"", L"01/02/1990", L"no last", 260),
+                   OfPatient(L" ", L"\t", L"01/02/1990", L"nameless", 400),
+                   OfPatient(L"Bo", L"Fox", L"", L"before 1970", -5)});
+    CHECK(Told(BuildPatientList(store), &PatientSummary::Patient) ==
           L"new, 300, 3; no last, 260, 1; no first, 250, 1; other date, 200, 1; "
           L"before 1970, -5, 1; ");
 }
 
 TEST_CASE("Providers are told apart by name and NPI, or without one by address") {
     const TemporaryStore store;
-    PutAll<ProviderRow>(store,
-                        {
-                            {L"Clinic A", L"12 3456-7890", L"1 Oak", L"X", L"IL", L"npi old", 100},
-                            {L"clinic a ", L"1234567890", L"2 Elm", L"Y", L"WI", L"npi new", 110},
-                            {L"Clinic A", L"1234567891", L"1 Oak", L"X", L"IL", L"other npi", 120},
-                            {L"Clinic A", L"n/a", L"1 Oak", L"X", L"IL", L"street", 200},
-                            {L" CLINIC A", L"", L"1 oak ", L"x", L" il", L"street new", 210},
-                            {L"Clinic A", L"", L"2 Oak", L"X", L"IL", L"other street", 220},
-                            {L"Clinic A", L"", L"1 Oak", L"Z", L"IL", L"other city", 230},
-                            {L"Clinic A", L"", L"1 Oak", L"X", L"WI", L"other state", 240},
-                            {L"\t", L"1234567890", L"1 Oak", L"X", L"IL", L"nameless", 300},
-                        });
-    CHECK(Providers(store) ==
-          L"other state, 240, 1; other city, 230, 1; other street, 220, 1; street new, 210, 2; "
-          L"other npi, 120, 1; npi new, 110, 2; ");
+    PutAll(store, {OfProvider(L"Clinic A", L"12 3456-7890", L"1 Oak", L"X", L"IL", L"old", 100),
+                   OfProvider(L"clinic a ", L"1234567890", L"2 Elm", L"Y", L"WI", L"new", 110),
+                   OfProvider(L"Clinic A", L"1234567891", L"1 Oak", L"X", L"IL", L"npi", 120),
+                   OfProvider(L"Clinic A", L"n/a", L"1 Oak", L"X", L"IL", L"old place", 200),
+                   OfProvider(L" CLINIC A", L"", L"1 oak ", L"x", L" il", L"new place", 210),
+                   OfProvider(L"Clinic A", L"", L"2 Oak", L"X", L"IL", L"street", 220),
+                   OfProvider(L"Clinic A", L"", L"1 Oak", L"Z", L"IL", L"city", 230),
+                   OfProvider(L"Clinic A", L"", L"1 Oak", L"X", L"WI", L"state", 240),
+                   OfProvider(L"\t", L"1234567890", L"1 Oak", L"X", L"IL", L"nameless", 300)});
+    CHECK(Told(BuildProviderList(store), &ProviderSummary::Provider) ==
+          L"state, 240, 1; city, 230, 1; street, 220, 1; new place, 210, 2; npi, 120, 1; "
+          L"new, 110, 2; ");
 }
 
 TEST_CASE("Estimates of one second are counted, and one of them is shown") {
     const TemporaryStore store;
-    PutAll<PatientRow>(store, {{L"Ann", L"Lee", L"", L"same", 0},
-                               {L"Ann", L"Lee", L"", L"same", 0},
-                               {L"Zoe", L"Lee", L"", L"other", 0}});
-    CHECK(LoadAllEstimates(store).size() == 3);
-    CHECK(Patients(store) == L"same, 0, 2; other, 0, 1; ");
+    PutAll(store, {OfPatient(L"Ann", L"Lee", L"", L"same", 0),
+                   OfPatient(L"Ann", L"Lee", L"", L"same", 0)});
+    CHECK(LoadAllEstimates(store).size() == 2);
+    CHECK(Told(BuildPatientList(store), &PatientSummary::Patient) == L"same, 0, 2; ");
 }

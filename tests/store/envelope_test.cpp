@@ -85,6 +85,10 @@ TEST_CASE("Damage and another tag end in the system's words") {
     }
     CHECK_FALSE(refuses(content));
     CHECK(refuses(Bytes(content.begin(), content.end() - 1)));
-    CHECK(refuses({'G', 'F', 'N', '1', 0}));
-    CHECK(error.ends_with(SystemErrorText(ERROR_INVALID_DATA)));
+    const Bytes shortest = {'G', 'F', 'N', '1', 0};
+    std::wstring description;
+    CHECK_FALSE(Opens(shortest, kTag, description));
+    const std::wstring systemText = SystemErrorText(GetLastError());
+    CHECK(refuses(shortest));
+    CHECK(error.ends_with(L": " + systemText));
 }

@@ -30,39 +30,27 @@ Bytes Plain(const SecretBytes& payload) {
 
 // The record in tests/data/payload-full.bin.
 Estimate FullEstimate() {
-    Estimate estimate;
-    estimate.EstimateId = L"GFE-20260307-140509-R2";
-    estimate.RootEstimateId = L"GFE-20260307-140509";
-    estimate.ParentEstimateId = L"GFE-20260307-140509-R1";
-    estimate.RevisionNumber = 2;
-    estimate.CreatedOn = 1772892309;
-    estimate.LastModifiedOn = 1772895909;
-    estimate.IssuedOn = 1772899509;
-    estimate.CancelledOn = -1;
-    estimate.EstimateStatus = kStatusRevised;
-    estimate.CoverageStatus = L"Self-pay (insured but not using insurance)";
-    estimate.TriggerReason = L"Patient requested estimate";
-    estimate.DeliveryMethod = L"Paper / In person";
-    const auto number = [](const std::wstring& prefix, const std::wstring& suffix) {
-        return [=, count = 0](const wchar_t* name, std::wstring& text) mutable {
+    const auto numbered = [](auto record, const std::wstring& prefix, const std::wstring& suffix) {
+        ForEachField(record, [&, count = 0](const wchar_t* name, std::wstring& text) mutable {
             text = prefix + std::to_wstring(count++) + L" " + name + suffix;
-        };
+        });
+        return record;
     };
-    ForEachField(estimate.Patient, number(L"p", L" \u00E9"));
-    ForEachField(estimate.Provider, number(L"v", L" \u00DF"));
+    // clang-format off
+    Estimate estimate = {
+        L"GFE-20260307-140509-R2", L"GFE-20260307-140509", L"GFE-20260307-140509-R1", 2,
+        1772892309, 1772895909, 1772899509, -1, L"Revised",
+        L"Self-pay (insured but not using insurance)", L"Patient requested estimate",
+        L"Paper / In person",
+        numbered(PatientInfo(), L"p", L" \u00E9"), numbered(ProviderInfo(), L"v", L" \u00DF"),
+        L"R\u00E9fection \u2014 knee \U0001F9B5 repair", L"Tear of meniscus", L"S83.2",
+        L"\u00D3st", L"M17", true, L"04/01/2026; 04/08/2026",
+        {{L"Arthroscopy", L"12 Oak St", L"S83.2", L"CPT", L"29881", 2, 1234.5},
+         {L"", L"", L"", L"Odd", L"", -1, 0.1}},
+        {{L"Physical therapy", L"Ask the clinic."}, {}},
+        L"line one\r\nline two \U0010FFFF", true};
+    // clang-format on
     estimate.Patient.ContactPreference = L"Mail";
-    estimate.PrimaryService = L"R\u00E9fection \u2014 knee \U0001F9B5 repair";
-    estimate.PrimaryDiagnosis = L"Tear of meniscus";
-    estimate.PrimaryDiagnosisCode = L"S83.2";
-    estimate.SecondaryDiagnosis = L"\u00D3st";
-    estimate.SecondaryDiagnosisCode = L"M17";
-    estimate.NotYetScheduled = true;
-    estimate.ScheduledDates = L"04/01/2026; 04/08/2026";
-    estimate.Lines = {{L"Arthroscopy", L"12 Oak St", L"S83.2", L"CPT", L"29881", 2, 1234.5},
-                      {L"", L"", L"", L"Odd", L"", -1, 0.1}};
-    estimate.SeparateItems = {{L"Physical therapy", L"Ask the clinic."}, {}};
-    estimate.ProviderNotes = L"line one\r\nline two \U0010FFFF";
-    estimate.ReservedFlag = true;
     return estimate;
 }
 
@@ -89,7 +77,9 @@ TEST_CASE("Every field comes back") {
 
 TEST_CASE("Unpaired surrogates are written, and ill-formed bytes read, as U+FFFD") {
     Estimate estimate;
-    estimate.EstimateId = L"a\xD83E" L"b\xDDB5";
+    estimate.EstimateId =
+        L"a\xD83E"
+        L"b\xDDB5";
     SecretBytes payload = WriteNativeEstimate(estimate);
     std::wstring error;
     REQUIRE(ReadNativeEstimate(payload, estimate, error));
@@ -159,7 +149,7 @@ TEST_CASE("A text of sixteen mebibytes is read, a longer one is damage") {
     const auto withText = [](std::array<std::uint8_t, 4> size, std::size_t bytes) {
         Bytes payload = TestData(L"payload-blank.bin");
         std::copy(size.begin(), size.end(), payload.begin() + 8);
-        payload.insert(payload.begin() + 12, bytes, 'x');
+        payload.insert(payload.begin() + 12, bytes, 0);
         return payload;
     };
     CHECK(Verdict(withText({0, 0, 0, 1}, 0x1000000)) == L"");
