@@ -46,6 +46,8 @@ int RunMainWindow(int showState) {
 }
 
 int RunProgram(HINSTANCE instance, int showState) {
+    // Libraries that are loaded from here on come from the system folder alone.
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     // Upper and lower case follow the user's language; numbers and dates stay as in "C".
     std::setlocale(LC_CTYPE, "");
     InitialiseCommonControls();
