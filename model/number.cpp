@@ -1,9 +1,11 @@
 #include "model/number.h"
 
-#include <cstdlib>
+#include <algorithm>
+#include <charconv>
 #include <cwctype>
 #include <limits>
 #include <string>
+#include <system_error>
 
 namespace tessaline {
 namespace {
@@ -39,6 +41,23 @@ std::size_t SkipExponent(std::wstring_view text, std::size_t at) {
     return end > digits ? end : at;
 }
 
+// The end of digits with an optional point that start at `at`, or `at` where no digit stands.
+std::size_t SkipMantissa(std::wstring_view text, std::size_t at) {
+    const std::size_t whole = SkipDigits(text, at);
+    if (whole >= text.size() || text[whole] != L'.') return whole;
+    const std::size_t fraction = SkipDigits(text, whole + 1);
+    return fraction == at + 1 ? at : fraction;
+}
+
+// What a number that no double holds comes to: infinity, or 0 where it is too small.
+double BeyondDouble(std::wstring_view mantissa, std::wstring_view exponent) {
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find(L'.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of(L"123456789"));
+    if (!exponent.empty()) exponent.remove_prefix(1);
+    const bool isLarge = point - first + TakeInteger(exponent).value_or(0) > 0;
+    return isLarge ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
 }  // namespace
 
 std::optional<std::int32_t> TakeInteger(std::wstring_view& text) {
@@ -60,20 +79,21 @@ std::optional<std::int32_t> TakeInteger(std::wstring_view& text) {
 
 double ReadDecimal(std::wstring_view text) {
     text.remove_prefix(SkipSpace(text));
-    const std::size_t whole = SkipSign(text, 0);
-    std::size_t end = SkipDigits(text, whole);
-    std::size_t digits = end - whole;
-    if (end < text.size() && text[end] == L'.') {
-        const std::size_t fraction = SkipDigits(text, end + 1);
-        digits += fraction - end - 1;
-        end = fraction;
-    }
-    if (digits == 0) return 0.0;
-    end = SkipExponent(text, end);
-    // Only ASCII is left, and the numeric locale of the program is never changed from "C".
+    const bool negative = text.starts_with(L'-');
+    text.remove_prefix(SkipSign(text, 0));
+    const std::size_t mantissa = SkipMantissa(text, 0);
+    if (mantissa == 0) return 0.0;
+    const std::size_t end = SkipExponent(text, mantissa);
+    // Only ASCII is left. The C library's `strtod` would take a time that grows with the square of
+    // the digits.
     std::string ascii;
     for (const wchar_t c : text.substr(0, end)) ascii.push_back(static_cast<char>(c));
-    return std::strtod(ascii.c_str(), nullptr);
+    double value = 0.0;
+    const auto read = std::from_chars(ascii.data(), ascii.data() + ascii.size(), value);
+    if (read.ec == std::errc::result_out_of_range) {
+        value = BeyondDouble(text.substr(0, mantissa), text.substr(mantissa, end - mantissa));
+    }
+    return negative ? -value : value;
 }
 
 std::int32_t TruncateToInt32(double number) {

@@ -53,6 +53,10 @@ TEST_CASE(
     };
     for (const Row& row : rows) CHECK(ParseMoneyText(row.text) == row.dollars);
     CHECK(std::isinf(ParseMoneyText(L"1e999")));
+    CHECK(ParseMoneyText(L"1e-999") == 0);
+    CHECK(ParseMoneyText(L"-1e-999") == 0);
+    // In no time, too: the C library takes a minute for this one.
+    CHECK(ParseMoneyText(L"0." + std::wstring(1'000'000, L'5')) == 5.0 / 9);
 }
 
 TEST_CASE("Whatever is no quantity of at least 1 becomes 1") {
