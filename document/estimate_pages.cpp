@@ -12,7 +12,6 @@
 #include "platform/handles.h"
 
 namespace tessaline {
-
 namespace {
 
 constexpr int kFirstPageLines = 6;

@@ -8,7 +8,6 @@
 #include "model/money.h"
 
 namespace tessaline {
-
 namespace {
 
 constexpr int kTableLeft = 42;

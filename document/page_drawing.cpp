@@ -4,7 +4,6 @@
 #include "platform/handles.h"
 
 namespace tessaline {
-
 namespace {
 
 FontOwner CreatePageFont(const PageTransform& transform, const TextStyle& style) {

@@ -6,7 +6,6 @@
 #include "model/text.h"
 
 namespace tessaline {
-
 namespace {
 
 constexpr wchar_t kBullet[] = L" \u2022 ";

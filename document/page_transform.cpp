@@ -1,7 +1,6 @@
 #include "document/page_transform.h"
 
 namespace tessaline {
-
 namespace {
 
 constexpr double kPageAspect = kPageWidth / kPageHeight;

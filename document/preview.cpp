@@ -10,7 +10,6 @@
 #include "platform/window.h"
 
 namespace tessaline {
-
 namespace {
 
 constexpr wchar_t kPreviewClass[] = L"GFE_Native_Preview";
@@ -23,19 +22,7 @@ struct PreviewState {
     HWND pageLabel = nullptr;
 };
 
-/// The window's state, null before it has one. The creation parameter is the `unique_ptr` that
-/// holds the state so far; from the first message on the window owns it, also when its creation
-/// fails later.
-PreviewState* AttachedState(HWND window, UINT message, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-        auto* holder = static_cast<std::unique_ptr<PreviewState>*>(creation->lpCreateParams);
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(holder->release()));
-    }
-    return reinterpret_cast<PreviewState*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-}
-
-/// Places are in pixels; the preview does not scale with the screen.
+// Places are in pixels; the preview does not scale with the screen.
 HWND MakeChild(HWND parent, const wchar_t* windowClass, const wchar_t* text, int id,
                const RECT& place, DWORD style) {
     return CreateWindowExW(0, windowClass, text, WS_CHILD | WS_VISIBLE | style, place.left,
@@ -81,7 +68,7 @@ void PaintPreview(HWND window, const PreviewState& state) {
 }
 
 LRESULT HandlePreview(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    PreviewState* state = AttachedState(window, message, lParam);
+    auto* const state = OwnedWindowState<PreviewState>(window, message, lParam);
     if (state == nullptr) return DefWindowProcW(window, message, wParam, lParam);
     switch (message) {
         case WM_CREATE:

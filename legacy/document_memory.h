@@ -38,7 +38,7 @@ class DocumentMemory {
         }
     };
 
-    // Enough for an estimate of a hundred lines. A block of this size costs nothing on the stack,
+    // Enough for an estimate of a hundred lines. On the stack such a block costs only its wiping,
     // while the heap would fetch it anew from the system for every file of a long list.
     static constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 

@@ -40,11 +40,12 @@ std::wstring EntryText(HWND choice, WPARAM index) {
     return text.data();
 }
 
-LRESULT CALLBACK AnswerAsSingleLine(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
-                                    UINT_PTR id, DWORD_PTR) {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, AnswerAsSingleLine, id);
+LRESULT CALLBACK PassTabAndEscape(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
+                                  UINT_PTR id, DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, PassTabAndEscape, id);
     const LRESULT answer = DefSubclassProc(edit, message, wParam, lParam);
-    return message == WM_GETDLGCODE ? answer & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB) : answer;
+    const bool forDialog = message == WM_GETDLGCODE && (wParam == VK_TAB || wParam == VK_ESCAPE);
+    return forDialog ? answer & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB) : answer;
 }
 
 }  // namespace
@@ -65,7 +66,7 @@ HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle) {
 }
 
 void LeaveKeysToDialog(HWND edit) {
-    SetWindowSubclass(edit, AnswerAsSingleLine, 1, 0);
+    SetWindowSubclass(edit, PassTabAndEscape, 1, 0);
 }
 
 HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries) {

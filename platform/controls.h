@@ -32,8 +32,8 @@ HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font = nu
 /// A framed edit that scrolls sideways.
 HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle = 0);
 
-/// Lets Tab, Enter and Escape work for the dialog also while the focus is in an edit of several
-/// lines, which would otherwise keep them all.
+/// Lets Tab and Escape work for the dialog also while the focus is in an edit of several lines,
+/// which would otherwise keep them. Enter goes on starting a new line there.
 void LeaveKeysToDialog(HWND edit);
 
 /// A drop-down list with its first entry selected. The box's height is ignored.

@@ -40,6 +40,19 @@ template <typename State>
     return reinterpret_cast<State*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
+/// The state of a window that owns it. The creation parameter is the `unique_ptr` that holds the
+/// state so far; from the window's first message on it is the window's, also when its creation
+/// fails later. Give it back with `TakeWindowState`.
+template <typename State>
+[[nodiscard]] State* OwnedWindowState(HWND window, UINT message, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+        auto* holder = static_cast<std::unique_ptr<State>*>(creation->lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(holder->release()));
+    }
+    return reinterpret_cast<State*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
 /// Takes the state back from a window that owned it: call it once, in WM_NCDESTROY, the last
 /// message.
 template <typename State>

@@ -5,6 +5,8 @@ export WINEDEBUG=-all
 export WINEDLLOVERRIDES='mscoree=;mshtml='
 
 desktop_pids=()
+# Only a prefix of our own is ever used, or stopped.
+unset WINEPREFIX
 
 stop_desktop() {
   [ -n "${WINEPREFIX:-}" ] && wineserver -k 2>/dev/null
@@ -80,5 +82,14 @@ start_printer() {
   lpstat -p PDF >/dev/null 2>&1 ||
     lpadmin -p PDF -v cups-pdf:/ -m lsb/usr/cups-pdf/CUPS-PDF_opt.ppd -o PageSize=Letter -E \
       2>/dev/null || return 1
+  # Programs take the default printer; `stop_printer` gives the earlier one back.
+  printer_default=$(lpstat -d 2>/dev/null | sed -n 's/^system default destination: //p')
   lpadmin -d PDF
+}
+
+stop_printer() {
+  [ -n "${printer_default:-}" ] && lpadmin -d "$printer_default" 2>/dev/null
+  local pid
+  for pid in "${desktop_pids[@]}"; do kill "$pid" 2>/dev/null; done
+  return 0
 }

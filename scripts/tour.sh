@@ -4,7 +4,9 @@
 # window manager and a Wine prefix; empties that prefix's estimates.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
+prefix=${WINEPREFIX:?a Wine prefix}
 . "$here/desktop.sh"
+export WINEPREFIX=$prefix
 program=$1 folder=$2
 data=$here/../tests/data
 
@@ -266,6 +268,7 @@ prepare_store() {
   cp "$data/legacy-estimate.gfe" "$store/older.gfe"
 }
 
+trap stop_printer EXIT
 rm -rf "$folder"
 mkdir -p "$folder"
 touch "$folder/started"

@@ -83,7 +83,7 @@ bool HasLegacyFiles(const LocalStore& store) {
     bool found = false;
     ForEachFile(store.EstimatesFolder, kEstimateFiles, [&](const std::wstring& name) {
         const Bytes content = ReadFileBytes(store.EstimatesFolder + L"\\" + name);
-        found = KindOfEstimateFile(content) == EstimateFileKind::Legacy;
+        found = KindOfEstimateFile(content) == EstimateFileKind::kLegacy;
         return !found;
     });
     return found;

@@ -37,9 +37,9 @@ bool ReadNativeFile(ByteView content, Estimate& estimate, std::wstring& error) {
 }  // namespace
 
 EstimateFileKind KindOfEstimateFile(ByteView content) {
-    if (BeginsWith(content, kNativeMarker)) return EstimateFileKind::Native;
-    if (BeginsWith(content, kLegacyMarker)) return EstimateFileKind::Legacy;
-    return EstimateFileKind::Unknown;
+    if (BeginsWith(content, kNativeMarker)) return EstimateFileKind::kNative;
+    if (BeginsWith(content, kLegacyMarker)) return EstimateFileKind::kLegacy;
+    return EstimateFileKind::kUnknown;
 }
 
 std::wstring EstimateFilePath(const LocalStore& store, const std::wstring& estimateId) {
@@ -49,9 +49,9 @@ std::wstring EstimateFilePath(const LocalStore& store, const std::wstring& estim
 bool SaveEstimate(const LocalStore& store, Estimate& estimate, std::wstring& path,
                   std::wstring& error) {
     Stamp(estimate);
-    path = EstimateFilePath(store, estimate.EstimateId);
     const Bytes content = ProtectEstimateData(WriteNativeEstimate(estimate), error);
     if (content.empty()) return false;
+    path = EstimateFilePath(store, estimate.EstimateId);
     if (WriteFileBytes(path, content)) return true;
     error = L"Could not write the estimate file.";
     return false;
@@ -65,11 +65,11 @@ bool LoadEstimateFile(const LocalStore& store, const std::wstring& path, Estimat
         return false;
     }
     switch (KindOfEstimateFile(content)) {
-        case EstimateFileKind::Native:
+        case EstimateFileKind::kNative:
             return ReadNativeFile(content, estimate, error);
-        case EstimateFileKind::Legacy:
+        case EstimateFileKind::kLegacy:
             return OpenLegacyEstimateFile(path, store, estimate, error);
-        case EstimateFileKind::Unknown:
+        case EstimateFileKind::kUnknown:
             break;
     }
     error = L"Unsupported estimate file format.";

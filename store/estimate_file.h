@@ -10,7 +10,7 @@
 
 namespace tessaline {
 
-enum class EstimateFileKind { Native, Legacy, Unknown };
+enum class EstimateFileKind { kNative, kLegacy, kUnknown };
 
 /// What a file is, by its first four bytes.
 [[nodiscard]] EstimateFileKind KindOfEstimateFile(ByteView content);

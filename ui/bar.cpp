@@ -20,12 +20,9 @@ void BuildTotalPanel(HWND bar) {
     App()->totalAmount = MakeLabel(panel, L"$0.00", {10, 22, 170, 32}, theme.totalFont.Get());
 }
 
-// Moves a child; x counts from the bar's right edge, all in pixels at 96 DPI.
-void PlaceFromRight(HWND bar, HWND child, const Box& box) {
-    RECT client{};
-    GetClientRect(bar, &client);
-    MoveWindow(child, client.right - Scale(box.x), Scale(box.y), Scale(box.width),
-               Scale(box.height), TRUE);
+// Moves a child whose left edge is already in pixels of the screen; the rest counts at 96 DPI.
+void PlaceAt(HWND child, int left, int y, int width, int height) {
+    MoveWindow(child, left, Scale(y), Scale(width), Scale(height), TRUE);
 }
 
 LRESULT PaintTotalBackground(HWND panel, HDC context) {
@@ -59,15 +56,18 @@ void BuildBar(HWND bar) {
 }
 
 void LayOutBar(HWND bar) {
-    constexpr int kStatus = 202 + 130;
-    constexpr int kAbout = kStatus + 87;
+    RECT client{};
+    GetClientRect(bar, &client);
+    // Every distance is scaled by itself, as the widths of the controls are.
+    const int status = client.right - Scale(202) - Scale(130);
+    const int about = status - Scale(87);
     const HWND totalPanel = FindWindowExW(bar, nullptr, kTotalClass, nullptr);
     const HWND statusLabel = FindWindowExW(bar, nullptr, L"STATIC", StatusField().label);
-    PlaceFromRight(bar, totalPanel, {190, 8, 190, 59});
-    PlaceFromRight(bar, App()->statusCombo, {kStatus, 25, 130, kChoiceHeight});
-    PlaceFromRight(bar, statusLabel, {kStatus, 8, 130, 16});
-    PlaceFromRight(bar, ControlById(kAboutButton), {kAbout, 12, 78, 38});
-    PlaceFromRight(bar, ControlById(kSampleButton), {kAbout + 204, 12, 76, 38});
+    PlaceAt(totalPanel, client.right - Scale(190), 8, 190, 59);
+    PlaceAt(App()->statusCombo, status, 25, 130, kChoiceHeight);
+    PlaceAt(statusLabel, status, 8, 130, 16);
+    PlaceAt(ControlById(kAboutButton), about, 12, 78, 38);
+    PlaceAt(ControlById(kSampleButton), about - Scale(204), 12, 76, 38);
 }
 
 LRESULT HandleBarMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

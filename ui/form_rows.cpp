@@ -32,51 +32,76 @@ constexpr const wchar_t* kStatusEntries[] = {kStatusDraft, kStatusIssued, kStatu
 
 // clang-format off
 const FieldRow kPatientRows[] = {
-    {1100, kEdit, L"First name *", {28, 68, 275, 17}, {28, 86, 275, 25}, Of<&PatientInfo::FirstName>},
-    {1101, kEdit, L"Middle name", {316, 68, 275, 17}, {316, 86, 275, 25}, Of<&PatientInfo::MiddleName>},
-    {1102, kEdit, L"Last name *", {604, 68, 275, 17}, {604, 86, 275, 25}, Of<&PatientInfo::LastName>},
-    {1103, kEdit, L"Date of birth *", {28, 116, 275, 17}, {28, 134, 275, 25}, Of<&PatientInfo::DateOfBirth>},
+    {1100, kEdit, L"First name *", {28, 68, 275, 17},
+     {28, 86, 275, 25}, Of<&PatientInfo::FirstName>},
+    {1101, kEdit, L"Middle name", {316, 68, 275, 17},
+     {316, 86, 275, 25}, Of<&PatientInfo::MiddleName>},
+    {1102, kEdit, L"Last name *", {604, 68, 275, 17},
+     {604, 86, 275, 25}, Of<&PatientInfo::LastName>},
+    {1103, kEdit, L"Date of birth *", {28, 116, 275, 17},
+     {28, 134, 275, 25}, Of<&PatientInfo::DateOfBirth>},
     {1104, kEdit, L"Phone", {316, 116, 275, 17}, {316, 134, 275, 25}, Of<&PatientInfo::Phone>},
     {1105, kEdit, L"Email", {604, 116, 275, 17}, {604, 134, 275, 25}, Of<&PatientInfo::Email>},
-    {1106, kEdit, L"Street / PO Box", {28, 164, 851, 17}, {28, 182, 851, 25}, Of<&PatientInfo::Street>},
-    {1107, kEdit, L"Apartment / Suite", {28, 212, 275, 17}, {28, 230, 275, 25}, Of<&PatientInfo::Apartment>},
+    {1106, kEdit, L"Street / PO Box", {28, 164, 851, 17},
+     {28, 182, 851, 25}, Of<&PatientInfo::Street>},
+    {1107, kEdit, L"Apartment / Suite", {28, 212, 275, 17},
+     {28, 230, 275, 25}, Of<&PatientInfo::Apartment>},
     {1108, kEdit, L"City", {316, 212, 275, 17}, {316, 230, 275, 25}, Of<&PatientInfo::City>},
     {1109, kEdit, L"State", {604, 212, 275, 17}, {604, 230, 275, 25}, Of<&PatientInfo::State>},
     {1110, kEdit, L"ZIP", {28, 260, 275, 17}, {28, 278, 275, 25}, Of<&PatientInfo::Zip>},
-    {1111, kEdit, L"Account # (last 4)", {316, 260, 275, 17}, {316, 278, 275, 25}, Of<&PatientInfo::AccountLast4>},
-    {1112, kChoice, L"Contact preference", {604, 260, 275, 17}, {604, 278, 275, kChoiceHeight}, Of<&PatientInfo::ContactPreference>, nullptr, kContactEntries},
+    {1111, kEdit, L"Account # (last 4)", {316, 260, 275, 17},
+     {316, 278, 275, 25}, Of<&PatientInfo::AccountLast4>},
+    {1112, kChoice, L"Contact preference", {604, 260, 275, 17},
+     {604, 278, 275, kChoiceHeight}, Of<&PatientInfo::ContactPreference>, nullptr,
+     kContactEntries},
 };
 
 const FieldRow kProviderRows[] = {
-    {1200, kEdit, L"Organization / provider name *", {28, 400, 560, 17}, {28, 418, 560, 25}, Of<&ProviderInfo::OrganizationName>},
-    {1201, kEdit, L"Provider / facility type", {600, 400, 279, 17}, {600, 418, 279, 25}, Of<&ProviderInfo::ProviderType>},
-    {1202, kEdit, L"Street address", {28, 448, 851, 17}, {28, 466, 851, 25}, Of<&ProviderInfo::Street>},
+    {1200, kEdit, L"Organization / provider name *", {28, 400, 560, 17},
+     {28, 418, 560, 25}, Of<&ProviderInfo::OrganizationName>},
+    {1201, kEdit, L"Provider / facility type", {600, 400, 279, 17},
+     {600, 418, 279, 25}, Of<&ProviderInfo::ProviderType>},
+    {1202, kEdit, L"Street address", {28, 448, 851, 17},
+     {28, 466, 851, 25}, Of<&ProviderInfo::Street>},
     {1203, kEdit, L"City", {28, 496, 275, 17}, {28, 514, 275, 25}, Of<&ProviderInfo::City>},
     {1204, kEdit, L"State", {316, 496, 275, 17}, {316, 514, 275, 25}, Of<&ProviderInfo::State>},
     {1205, kEdit, L"ZIP", {604, 496, 275, 17}, {604, 514, 275, 25}, Of<&ProviderInfo::Zip>},
-    {1206, kEdit, L"Contact person", {28, 544, 275, 17}, {28, 562, 275, 25}, Of<&ProviderInfo::ContactPerson>},
+    {1206, kEdit, L"Contact person", {28, 544, 275, 17},
+     {28, 562, 275, 25}, Of<&ProviderInfo::ContactPerson>},
     {1207, kEdit, L"Phone", {316, 544, 275, 17}, {316, 562, 275, 25}, Of<&ProviderInfo::Phone>},
     {1208, kEdit, L"Email", {604, 544, 275, 17}, {604, 562, 275, 25}, Of<&ProviderInfo::Email>},
     {1209, kEdit, L"NPI", {28, 592, 275, 17}, {28, 610, 275, 25}, Of<&ProviderInfo::Npi>},
     {1210, kEdit, L"TIN", {316, 592, 275, 17}, {316, 610, 275, 25}, Of<&ProviderInfo::Tin>},
-    {1211, kEdit, L"Website", {604, 592, 275, 17}, {604, 610, 275, 25}, Of<&ProviderInfo::Website>},
+    {1211, kEdit, L"Website", {604, 592, 275, 17},
+     {604, 610, 275, 25}, Of<&ProviderInfo::Website>},
 };
 
 const FieldRow kContextRows[] = {
-    {1300, kChoice, L"Patient status", {28, 751, 270, 17}, {28, 769, 275, kChoiceHeight}, Of<&Estimate::CoverageStatus>, nullptr, kCoverageEntries},
-    {1301, kChoice, L"Estimate triggered by", {316, 751, 270, 17}, {316, 769, 275, kChoiceHeight}, Of<&Estimate::TriggerReason>, nullptr, kTriggerEntries},
-    {1302, kChoice, L"Delivery method", {604, 751, 270, 17}, {604, 769, 275, kChoiceHeight}, Of<&Estimate::DeliveryMethod>, nullptr, kDeliveryEntries},
+    {1300, kChoice, L"Patient status", {28, 751, 270, 17},
+     {28, 769, 275, kChoiceHeight}, Of<&Estimate::CoverageStatus>, nullptr, kCoverageEntries},
+    {1301, kChoice, L"Estimate triggered by", {316, 751, 270, 17},
+     {316, 769, 275, kChoiceHeight}, Of<&Estimate::TriggerReason>, nullptr, kTriggerEntries},
+    {1302, kChoice, L"Delivery method", {604, 751, 270, 17},
+     {604, 769, 275, kChoiceHeight}, Of<&Estimate::DeliveryMethod>, nullptr, kDeliveryEntries},
 };
 
 const FieldRow kDetailRows[] = {
-    {1400, kEdit, L"Estimate ID", {28, 885, 275, 17}, {28, 903, 275, 25}, Of<&Estimate::EstimateId>},
-    {1401, kEdit, L"Primary service or item *", {316, 885, 563, 17}, {316, 903, 563, 25}, Of<&Estimate::PrimaryService>},
-    {1402, kEdit, L"Primary diagnosis", {28, 933, 275, 17}, {28, 951, 275, 25}, Of<&Estimate::PrimaryDiagnosis>},
-    {1403, kEdit, L"Primary diagnosis code", {316, 933, 275, 17}, {316, 951, 275, 25}, Of<&Estimate::PrimaryDiagnosisCode>},
-    {1404, kEdit, L"Secondary diagnosis", {604, 933, 275, 17}, {604, 951, 275, 25}, Of<&Estimate::SecondaryDiagnosis>},
-    {1405, kEdit, L"Secondary diagnosis code", {28, 981, 275, 17}, {28, 999, 275, 25}, Of<&Estimate::SecondaryDiagnosisCode>},
-    {1406, kEdit, L"Scheduled date(s) *", {316, 981, 563, 17}, {316, 999, 563, 25}, Of<&Estimate::ScheduledDates>},
-    {1407, kCheck, L"Service/item is not yet scheduled", {}, {28, 1029, 250, 22}, nullptr, &Estimate::NotYetScheduled},
+    {1400, kEdit, L"Estimate ID", {28, 885, 275, 17},
+     {28, 903, 275, 25}, Of<&Estimate::EstimateId>},
+    {1401, kEdit, L"Primary service or item *", {316, 885, 563, 17},
+     {316, 903, 563, 25}, Of<&Estimate::PrimaryService>},
+    {1402, kEdit, L"Primary diagnosis", {28, 933, 275, 17},
+     {28, 951, 275, 25}, Of<&Estimate::PrimaryDiagnosis>},
+    {1403, kEdit, L"Primary diagnosis code", {316, 933, 275, 17},
+     {316, 951, 275, 25}, Of<&Estimate::PrimaryDiagnosisCode>},
+    {1404, kEdit, L"Secondary diagnosis", {604, 933, 275, 17},
+     {604, 951, 275, 25}, Of<&Estimate::SecondaryDiagnosis>},
+    {1405, kEdit, L"Secondary diagnosis code", {28, 981, 275, 17},
+     {28, 999, 275, 25}, Of<&Estimate::SecondaryDiagnosisCode>},
+    {1406, kEdit, L"Scheduled date(s) *", {316, 981, 563, 17},
+     {316, 999, 563, 25}, Of<&Estimate::ScheduledDates>},
+    {1407, kCheck, L"Service/item is not yet scheduled", {},
+     {28, 1029, 250, 22}, nullptr, &Estimate::NotYetScheduled},
 };
 
 const FieldRow kNotesRows[] = {
@@ -84,7 +109,8 @@ const FieldRow kNotesRows[] = {
 };
 
 const FieldRow kStatusRow =
-    {1007, kChoice, L"ESTIMATE STATUS", {885, 8, 132, 16}, {885, 25, 130, kChoiceHeight}, Of<&Estimate::EstimateStatus>, nullptr, kStatusEntries};
+    {1007, kChoice, L"ESTIMATE STATUS", {885, 8, 132, 16},
+     {885, 25, 130, kChoiceHeight}, Of<&Estimate::EstimateStatus>, nullptr, kStatusEntries};
 
 constexpr ListColumn kLineColumns[] = {
     {L"Service / Item", 230}, {L"Location", 155}, {L"Diagnosis", 90}, {L"Code", 105},
@@ -104,8 +130,12 @@ constexpr ButtonRow kBarButtons[] = {
     {kSampleButton, L"Sample", {595, 12, 76, 38}, true},
     {kAboutButton, L"About", {798, 12, 78, 38}},
 };
-constexpr ButtonRow kPatientLookup[] = {{kPatientLookupButton, L"Patient Lookup", {730, 22, 130, 30}}};
-constexpr ButtonRow kProviderLookup[] = {{kProviderLookupButton, L"Provider Lookup", {728, 350, 132, 30}}};
+constexpr ButtonRow kPatientLookup[] = {
+    {kPatientLookupButton, L"Patient Lookup", {730, 22, 130, 30}},
+};
+constexpr ButtonRow kProviderLookup[] = {
+    {kProviderLookupButton, L"Provider Lookup", {728, 350, 132, 30}},
+};
 constexpr ButtonRow kLineButtons[] = {
     {kAddLineButton, L"Add Item", {28, 1317, 92, 30}},
     {kEditLineButton, L"Edit", {128, 1317, 76, 30}},
@@ -117,7 +147,7 @@ constexpr ButtonRow kSeparateButtons[] = {
     {kRemoveSeparateButton, L"Remove", {196, 1577, 82, 30}},
 };
 constexpr ButtonRow kOutputButtons[] = {
-    {kPreviewButton, L"Print Preview", {28, 1881, 112, 36}, true},
+    {kPreviewButton, L"Print Preview", {28, 1881, 112, 36}},
     {kPrintButton, L"Print", {150, 1881, 76, 36}, true},
 };
 

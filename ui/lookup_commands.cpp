@@ -96,8 +96,8 @@ void ReplaceBlock(Block Estimate::*block, Block&& chosen) {
 void OpenEstimateCommand() {
     std::optional<SavedEstimateEntry> entry = Choose(kEstimates);
     if (!entry) return;
-    App()->CurrentFilePath = std::move(entry->FilePath);
     BindToForm(std::move(entry->Record));
+    App()->CurrentFilePath = std::move(entry->FilePath);
     SetStatusLine(L"Estimate opened");
 }
 

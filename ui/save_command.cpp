@@ -14,7 +14,8 @@
 namespace tessaline {
 namespace {
 
-// An issued estimate is never overwritten by an edit. A cancellation is no edit of what it says.
+// Once a save or an opening has seen the estimate issued, an edit no longer overwrites its file.
+// To cancel it is no edit of what it says.
 bool BecomesRevision(const AppState& app) {
     const bool issued = app.SavedStatus == kStatusIssued || app.SavedStatus == kStatusRevised;
     return !app.CurrentFilePath.empty() && app.IsModified && issued &&

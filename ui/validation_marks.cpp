@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 #include "model/validation.h"
 #include "ui/app_state.h"
@@ -39,7 +40,8 @@ constexpr RuleRow kRules[] = {
     {kAccountEdit, kPatientMessage, false, [](const Estimate& e, bool) {
          return CheckAccountLast4(e.Patient.AccountLast4); }},
     {kOrganizationEdit, kProviderMessage, true, [](const Estimate& e, bool) {
-         return Required(e.Provider.OrganizationName, L"Provider / facility name is required."); }},
+         return Required(e.Provider.OrganizationName,
+                         L"Provider / facility name is required."); }},
     {kProviderEmailEdit, kProviderMessage, false, [](const Estimate& e, bool) {
          return CheckEmail(e.Provider.Email); }},
     {kProviderZipEdit, kProviderMessage, false, [](const Estimate& e, bool) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace tessaline::bench {
 namespace {
@@ -38,6 +39,7 @@ Measure CompareTimes(const std::string& name, int rounds, double aim,
     std::vector<double> oursTimes;
     std::vector<double> floorTimes;
     std::vector<double> ratios;
+    std::fprintf(stderr, "measuring %s\n", name.c_str());
     ours();
     floor();
     for (int round = 0; round < rounds; ++round) {

@@ -1,0 +1,120 @@
+#include "tests/ui/running_program.h"
+
+#include <commctrl.h>
+
+#include "platform/controls.h"
+#include "platform/scale.h"
+#include "platform/theme.h"
+#include "tests/support/readable.h"
+#include "tests/ui/told_window.h"
+#include "ui/main_window.h"
+
+namespace tessaline {
+namespace {
+
+RunningProgram* running = nullptr;
+
+// A message box in words; `answer` receives the button with which `expected` ends, or the first.
+std::wstring DescribeBox(HWND box, const std::wstring& expected, HWND& answer) {
+    const std::pair<LPCWSTR, wchar_t> icons[] = {
+        {IDI_INFORMATION, L'i'}, {IDI_WARNING, L'!'}, {IDI_ERROR, L'x'}, {IDI_QUESTION, L'?'}};
+    std::wstring icon, text, buttons;
+    for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        std::wstring words = WindowText(child);
+        if (ClassOf(child) == L"Button") {
+            std::erase(words, L'&');
+            if (answer == nullptr || expected.ends_with(L"] " + words)) answer = child;
+            buttons += L" " + words;
+        } else if (const LRESULT shown = SendMessageW(child, STM_GETICON, 0, 0)) {
+            for (const auto& [resource, name] : icons) {
+                if (reinterpret_cast<HICON>(shown) == LoadIconW(nullptr, resource)) icon += name;
+            }
+        } else {
+            text += words;
+        }
+    }
+    return icon + L" " + WindowText(box) + L": " + text + L" [" + buttons.substr(1) + L"]";
+}
+
+bool IsBox(HWND window) {
+    return ClassOf(window) == L"#32770";
+}
+
+// The box or dialog that takes the input, whether this program is in the foreground or not.
+HWND ModalWindow() {
+    HWND modal = nullptr;
+    const auto look = [](HWND window, LPARAM found) -> BOOL {
+        const std::wstring name = ClassOf(window);
+        if (!IsBox(window) && (!name.starts_with(L"GFE_") || name.ends_with(L"Preview")))
+            return TRUE;
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+        *reinterpret_cast<HWND*>(found) = window;
+        return FALSE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&modal));
+    return modal;
+}
+
+}  // namespace
+
+RunningProgram::RunningProgram(int dpi) {
+    InitCommonControls();
+    SetScreenDpi(dpi);
+    CreateTheme();
+    app.store = store;
+    PublishAppState(&app);
+    running = this;
+    // Any loop dispatches it, those of message boxes too, and only when nothing else waits.
+    timer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM,
+                      [](HWND, UINT, UINT_PTR, DWORD) { running->LookAround(); });
+    ShowWindow(CreateMainWindow(), SW_SHOW);
+    Settle();
+}
+
+RunningProgram::~RunningProgram() {
+    if (IsWindow(app.mainWindow)) DestroyWindow(app.mainWindow);
+    Settle();
+    KillTimer(nullptr, timer_);
+    PublishAppState(nullptr);
+    for (const std::wstring& box : boxes_) CHECK(box == L"a box that came");
+    CHECK(steps_.empty());
+}
+
+int RunningProgram::Settle() const {
+    int quitCode = -1;
+    for (MSG message{}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
+        if (message.message == WM_QUIT) quitCode = static_cast<int>(message.wParam);
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return quitCode;
+}
+
+void RunningProgram::LookAround() {
+    if (const HWND modal = ModalWindow()) IsBox(modal) ? AnswerBox(modal) : TakeStep(modal);
+}
+
+void RunningProgram::AnswerBox(HWND box) {
+    if (boxes_.empty()) ExpectBox(L"[no box] No");
+    const std::wstring expected = boxes_.front();
+    HWND answer = nullptr;
+    CHECK(DescribeBox(box, expected, answer) == expected.substr(0, expected.find(L']') + 1));
+    CHECK(GetWindow(box, GW_OWNER) == (IsWindow(dialog_) ? dialog_ : app.mainWindow));
+    boxes_.pop_front();
+    SendMessageW(answer, BM_CLICK, 0, 0);
+}
+
+void RunningProgram::TakeStep(HWND dialog) {
+    dialog_ = dialog;
+    CHECK_FALSE(IsWindowEnabled(app.mainWindow));
+    if (steps_.empty())
+        InDialog([](HWND open) {
+            CHECK(ClassOf(open) == L"a window that closed");
+            SendMessageW(open, WM_CLOSE, 0, 0);
+        });
+    const auto step = std::move(steps_.front());
+    steps_.pop_front();
+    step(dialog);
+}
+
+}  // namespace tessaline

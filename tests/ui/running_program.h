@@ -1,0 +1,48 @@
+// The whole program in process: its real main window over a store of the test's own, with the
+// modal windows and message boxes that its commands open.
+#pragma once
+
+#include <windows.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "tests/support/temporary_store.h"
+#include "ui/app_state.h"
+
+namespace tessaline {
+
+/// One at a time. Its end checks that every expected box and every step came.
+class RunningProgram {
+  public:
+    explicit RunningProgram(int dpi);
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+    ~RunningProgram();
+
+    TemporaryStore store;
+    AppState app;
+
+    /// Handles every message that waits. The exit code when one was to quit, else -1.
+    int Settle() const;
+
+    /// The next message box must read "icon caption: text [buttons]". The words after that are the
+    /// button to press, else the first. Any other box is a failure.
+    void ExpectBox(const std::wstring& box) { boxes_.push_back(box); }
+    /// What the user does next in a modal window, once its loop is idle.
+    void InDialog(std::function<void(HWND dialog)> step) { steps_.push_back(std::move(step)); }
+
+  private:
+    void LookAround();
+    void AnswerBox(HWND box);
+    void TakeStep(HWND dialog);
+
+    std::deque<std::wstring> boxes_;
+    std::deque<std::function<void(HWND)>> steps_;
+    HWND dialog_ = nullptr;
+    UINT_PTR timer_ = 0;
+};
+
+}  // namespace tessaline

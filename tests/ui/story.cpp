@@ -1,0 +1,278 @@
+#include "tests/ui/story.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <regex>
+#include <sstream>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/scale.h"
+#include "store/catalogue.h"
+#include "tests/support/distinct_estimate.h"
+#include "tests/support/readable.h"
+#include "tests/support/test_data.h"
+#include "tests/ui/running_program.h"
+#include "tests/ui/told_window.h"
+#include "ui/binding.h"
+#include "ui/sample_estimate.h"
+
+namespace tessaline {
+namespace {
+
+struct Story {
+    explicit Story(int dpi) : program(dpi) {}
+
+    RunningProgram program;
+    AppState& app = program.app;
+    std::vector<FileOwner> locks;
+    Estimate bound;
+    // The line that is played: in which window, its words after the verb, what the first of them
+    // stands for, and the others.
+    HWND window = nullptr, target = nullptr;
+    std::wstring words, text;
+    int number = 0;
+
+    void Send(UINT message, long long wParam = 0, LPARAM lParam = 0) const {
+        SendMessageW(target, message, static_cast<WPARAM>(wParam), lParam);
+    }
+    [[nodiscard]] int Value() const { return _wtoi(text.c_str()); }
+    [[nodiscard]] WPARAM Word() const { return static_cast<WPARAM>(number); }
+    void Bind(const Estimate& estimate) { BindToForm(bound = estimate); }
+    void PutFile() const {
+        const Estimate& estimate = app.currentEstimate;
+        program.store.PutEstimate(estimate.EstimateId + L".gfe", estimate);
+    }
+};
+
+// The control with that ID or text, or the part of the main window with that name.
+HWND Find(const Story& s, const std::wstring& name) {
+    const AppState& app = s.app;
+    const std::map<std::wstring, HWND> parts = {
+        {L"form", app.canvasWindow},       {L"bar", app.barWindow},
+        {L"container", app.scrollWindow},  {L"status", app.statusLine},
+        {L"amount", app.totalAmount},      {L"total", GetParent(app.totalAmount)},
+        {L"first", app.sectionMessage[0]}, {L"last", app.sectionMessage[3]}};
+    const bool inMain = s.window == app.mainWindow;
+    if (inMain && app.controlById.contains(s.number)) return app.controlById.at(s.number);
+    if (s.number != 0) return GetDlgItem(inMain ? app.canvasWindow : s.window, s.number);
+    if (inMain) return parts.contains(name) ? parts.at(name) : s.window;
+    for (const std::wstring& text : {s.words, name}) {
+        const HWND found = FindWindowExW(s.window, nullptr, nullptr, text.c_str());
+        if (found != nullptr) return found;
+    }
+    return s.window;
+}
+
+// Compares texts in which times and identifiers made by the clock are "now".
+void CheckText(const std::wstring& found, const std::wstring& wanted) {
+    static const std::wregex clock(L"GFE-\\d{8}-\\d{6}|\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d [AP]M");
+    CHECK(std::regex_replace(found, clock, L"now") == wanted);
+}
+
+// With its notification, which makes the form's estimate modified.
+void Type(Story& s) {
+    const bool inForm = s.window == s.app.mainWindow;
+    if (inForm) s.app.IsModified = false;
+    s.Send(EM_SETSEL, 0, -1);
+    s.Send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(s.text.c_str()));
+    if (inForm) CHECK(s.app.IsModified);
+}
+
+// A complete estimate that is not the sample, in a file and in the form.
+void Open(Story& s) {
+    std::wistringstream words(s.words);
+    Estimate estimate = SampleEstimate();
+    words >> estimate.EstimateId >> estimate.EstimateStatus >> estimate.IssuedOn;
+    estimate.RootEstimateId = estimate.EstimateId;
+    estimate.LastModifiedOn = 86'400;
+    estimate.ProviderNotes.clear();
+    s.Bind(estimate);
+    s.PutFile();
+    s.app.CurrentFilePath = s.program.store.Path(estimate.EstimateId + L".gfe");
+}
+
+// The form's estimate as a file of that modification time.
+void Put(Story& s) {
+    ReadForm();
+    s.app.currentEstimate.LastModifiedOn = s.number;
+    s.PutFile();
+}
+
+// A value of its own in every field, but for the contact preference and the status.
+void BindDistinct(Story& s) {
+    Estimate estimate = DistinctEstimate();
+    std::wistringstream words(s.words);
+    words >> estimate.Patient.ContactPreference >> estimate.EstimateStatus;
+    s.Bind(estimate);
+}
+
+// Sizes the main window by what it holds, if it may become so small.
+void Size(Story& s) {
+    RECT frame{0, 0, Scale(s.number), Scale(s.Value())};
+    AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
+    const int width = frame.right - frame.left, height = frame.bottom - frame.top;
+    SetWindowPos(s.app.mainWindow, nullptr, 0, 0, width, height, SWP_NOMOVE);
+    CHECK(PlaceOf(s.app.mainWindow).right == std::max(width, Scale(1040)));
+    CHECK(PlaceOf(s.app.mainWindow).bottom == std::max(height, Scale(650)));
+}
+
+void CheckState(Story& s) {
+    const std::wstring& path = s.app.CurrentFilePath;
+    const bool issued = s.app.currentEstimate.IssuedOn > 1'000'000'000;
+    CheckText((s.app.IsModified ? L"modified " : L"clean ") + s.app.SavedStatus + L" " +
+                  (path.empty() ? L"-" : path.substr(path.find_last_of(L'\\') + 1)) +
+                  (issued ? L" issued" : L""),
+              s.words);
+}
+
+// Every file, latest first, with its status and the patient's phone.
+void CheckFiles(Story& s) {
+    std::wstring files;
+    for (const auto& [path, estimate] : LoadAllEstimates(s.program.store)) {
+        CHECK(path == s.program.store.Path(estimate.EstimateId + L".gfe"));
+        files += (files.empty() ? L"" : L", ") + estimate.EstimateId + L" " +
+                 estimate.EstimateStatus + L" " + estimate.Patient.Phone;
+    }
+    CheckText(files, s.words);
+}
+
+// The marked controls and after colons the messages of the four sections that are shown.
+void CheckMarks(Story& s) {
+    std::wstring marks;
+    for (const auto& [id, control] : s.app.controlById) {
+        if (s.app.invalidControls.contains(control)) marks += std::to_wstring(id) + L" ";
+    }
+    for (const HWND line : s.app.sectionMessage) {
+        const std::wstring message = WindowText(line);
+        CHECK((GetWindowLongW(line, GWL_STYLE) & WS_VISIBLE) ==
+              (message.empty() ? 0 : WS_VISIBLE));
+        marks += L":" + message;
+    }
+    CHECK(marks == s.words);
+}
+
+// The canvas is scrolled so far, in the middle of its container.
+void CheckCanvas(Story& s) {
+    RECT view{};
+    GetClientRect(s.app.scrollWindow, &view);
+    const RECT place = PlaceOf(s.app.canvasWindow);
+    const RECT wanted{std::max(0L, (view.right - Scale(930)) / 2), -Scale(s.number), Scale(930),
+                      Scale(1960)};
+    CHECK(EqualRect(&place, &wanted));
+    CHECK(GetScrollPos(s.app.scrollWindow, SB_VERT) == Scale(s.number));
+}
+
+// The colours with which a control's parent has it drawn, in hexadecimal (blue, green, red): of
+// the text, behind the text, and of the brush. CLR_NONE where nothing is filled.
+void CheckColours(Story& s) {
+    const DeviceContextOwner memory(CreateCompatibleDC(nullptr));
+    const HDC dc = memory.Get();
+    const UINT message = ClassOf(s.target) == L"Edit" ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
+    const LRESULT brush = SendMessageW(GetParent(s.target), message, reinterpret_cast<WPARAM>(dc),
+                                       reinterpret_cast<LPARAM>(s.target));
+    LOGBRUSH fill{};
+    GetObjectW(reinterpret_cast<HBRUSH>(brush), sizeof(fill), &fill);
+    std::wostringstream told;
+    told << std::hex << GetTextColor(dc) << L' '
+         << (GetBkMode(dc) == TRANSPARENT ? CLR_NONE : GetBkColor(dc)) << L' '
+         << (fill.lbStyle == BS_HOLLOW ? CLR_NONE : fill.lbColor);
+    CHECK(told.str() == s.text);
+}
+
+// clang-format off
+const std::map<std::wstring, void (*)(Story&)> kVerbs = {
+    // What the user does.
+    {L"type", Type}, {L"size", Size},
+    {L"press", [](Story& s) { s.Send(BM_CLICK); }},
+    {L"choose", [](Story& s) { s.Send(WM_KEYDOWN, VK_DOWN); }},
+    {L"double", [](Story& s) { s.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(20, 35)); }},
+    {L"select", [](Story& s) {
+        ListView_SetItemState(s.target, s.Value(), LVIS_SELECTED, LVIS_SELECTED); }},
+    {L"key", [](Story& s) { PostMessageW(GetFocus(), WM_KEYDOWN, s.Word(), 0); }},
+    {L"close", [](Story& s) { SendMessageW(s.window, WM_CLOSE, 0, 0); }},
+    {L"scroll", [](Story& s) { s.Send(WM_VSCROLL, s.Value()); }},
+    {L"wheel", [](Story& s) { s.Send(WM_MOUSEWHEEL, s.Value() * 65536LL); }},
+    // What comes about.
+    {L"timer", [](Story& s) { PostMessageW(s.window, WM_TIMER, s.Word(), 0); }},
+    {L"settle", [](Story& s) { CHECK(s.program.Settle() == (s.words.empty() ? -1 : s.number)); }},
+    {L"quit", [](Story& s) { PostQuitMessage(s.number); }},
+    {L"open", Open}, {L"put", Put}, {L"distinct", BindDistinct},
+    {L"blank", [](Story& s) { s.Bind(Estimate()); }},
+    {L"reread", [](Story& s) { ReadForm(); s.Bind(s.app.currentEstimate); }},
+    {L"forget", [](Story& s) { s.app.CurrentFilePath.clear(); }},
+    {L"older", [](Story& s) { s.program.store.Put(s.words, Bytes{'G', 'F', 'E', '2'}); }},
+    {L"lock", [](Story& s) { s.locks.push_back(s.program.store.Lock(s.words)); }},
+    // What is to be seen.
+    {L"state", CheckState}, {L"files", CheckFiles}, {L"marks", CheckMarks},
+    {L"canvas", CheckCanvas}, {L"colours", CheckColours},
+    {L"text", [](Story& s) { CheckText(WindowText(s.target), s.text); }},
+    {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
+    {L"looks", [](Story& s) { CheckWindow(s.target, s.words, ScreenDpi()); }},
+    {L"focus", [](Story& s) { CHECK(GetFocus() == s.target); }},
+    {L"enabled", [](Story& s) { CHECK(IsWindowEnabled(s.target)); }},
+    {L"disabled", [](Story& s) { CHECK_FALSE(IsWindowEnabled(s.target)); }},
+    {L"active", [](Story& s) { CHECK(ClassOf(GetActiveWindow()) == s.words); }},
+    {L"differs", [](Story& s) {
+        ReadForm();
+        CHECK(Differences(s.app.currentEstimate, s.bound) == s.words + L" "); }},
+};
+// clang-format on
+
+void PlayLine(Story& s, HWND window, const std::wstring& line) {
+    INFO(Readable(line));
+    std::wistringstream stream(line);
+    std::wstring verb, first;
+    s.words = s.text = L"";
+    std::getline(stream >> verb >> std::ws, s.words);
+    std::getline(std::wistringstream(s.words) >> first, s.text);
+    // A blank goes before the text; quotes keep those at its ends.
+    s.text.erase(0, 1);
+    if (s.text.starts_with(L'"')) s.text = s.text.substr(1, s.text.size() - 2);
+    s.number = _wtoi(s.words.c_str());
+    s.window = window;
+    s.target = Find(s, first);
+    const auto found = kVerbs.find(verb);
+    CHECK(found != kVerbs.end());
+    if (found != kVerbs.end()) found->second(s);
+}
+
+}  // namespace
+
+void PlayStories(const std::wstring& file) {
+    std::wistringstream text(FromUtf8(TestData(file)));
+    std::vector<std::wstring> lines;
+    for (std::wstring line; std::getline(text, line);) {
+        if (!line.empty() && line[0] != L'#') lines.push_back(line);
+    }
+    std::optional<Story> story;
+    std::wstring name;
+    INFO(Readable(name));
+    for (std::size_t next = 0; next < lines.size();) {
+        const std::wstring line = lines[next++];
+        if (line.starts_with(L"story ")) {
+            name = line.substr(6);
+            story.emplace(_wtoi(name.c_str()));
+            continue;
+        }
+        for (; next < lines.size() && lines[next].starts_with(L"  "); ++next) {
+            const std::wstring then = lines[next].substr(2);
+            if (then.starts_with(L"box ")) {
+                story->program.ExpectBox(then.substr(4));
+            } else {
+                story->program.InDialog(
+                    [&, then](HWND dialog) { PlayLine(*story, dialog, then); });
+            }
+        }
+        const HWND main = story->app.mainWindow;
+        PlayLine(*story, main, line);
+        CHECK(IsWindow(main) == IsWindowEnabled(main));
+    }
+}
+
+}  // namespace tessaline
