@@ -271,7 +271,7 @@ void PlayStories(const std::wstring& file) {
         }
         const HWND main = story->app.mainWindow;
         PlayLine(*story, main, line);
-        CHECK(IsWindow(main) == IsWindowEnabled(main));
+        if (IsWindow(main)) CHECK(IsWindowEnabled(main));
     }
 }
 

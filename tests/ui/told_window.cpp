@@ -66,7 +66,7 @@ int OpenedHeight(HWND choice, int dpi) {
 // The window as a line of the file has it.
 std::wstring Told(HWND window, int dpi) {
     const std::wstring className = ClassOf(window);
-    auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE)) & ~WS_HSCROLL;
+    auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE)) & ~DWORD{WS_HSCROLL};
     const auto extended = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
     RECT place = PlaceOf(window);
     std::wstring text = WindowText(window);
