@@ -207,10 +207,16 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"reread", [](Story& s) { ReadForm(); s.Bind(s.app.currentEstimate); }},
     {L"forget", [](Story& s) { s.app.CurrentFilePath.clear(); }},
     {L"older", [](Story& s) { s.program.store.Put(s.words, Bytes{'G', 'F', 'E', '2'}); }},
+    {L"vector", [](Story& s) {
+        const std::wstring key = s.program.store->BaseFolder + L"\\data.key";
+        REQUIRE(WriteFileBytes(key, TestData(L"legacy-data.key")));
+        s.program.store.Put(s.words, TestData(L"legacy-estimate.gfe")); }},
     {L"lock", [](Story& s) { s.locks.push_back(s.program.store.Lock(s.words)); }},
     // What is to be seen.
     {L"state", CheckState}, {L"files", CheckFiles}, {L"marks", CheckMarks},
     {L"canvas", CheckCanvas}, {L"colours", CheckColours},
+    {L"untouched", [](Story& s) {
+        CHECK(ReadFileBytes(s.program.store.Path(s.words)) == TestData(L"legacy-estimate.gfe")); }},
     {L"text", [](Story& s) { CheckText(WindowText(s.target), s.text); }},
     {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
     {L"looks", [](Story& s) { CheckWindow(s.target, s.words, ScreenDpi()); }},
