@@ -200,6 +200,9 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"wheel", [](Story& s) { s.Send(WM_MOUSEWHEEL, s.Value() * 65536LL); }},
     // What comes about.
     {L"timer", [](Story& s) { PostMessageW(s.window, WM_TIMER, s.Word(), 0); }},
+    {L"tick", [](Story& s) {
+        PostMessageW(s.window, WM_TIMER, 1, 0);
+        CHECK(s.program.Settle() == -1); }},
     {L"settle", [](Story& s) { CHECK(s.program.Settle() == (s.words.empty() ? -1 : s.number)); }},
     {L"quit", [](Story& s) { PostQuitMessage(s.number); }},
     {L"open", Open}, {L"put", Put}, {L"distinct", BindDistinct},
