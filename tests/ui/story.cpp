@@ -219,7 +219,8 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"state", CheckState}, {L"files", CheckFiles}, {L"marks", CheckMarks},
     {L"canvas", CheckCanvas}, {L"colours", CheckColours},
     {L"untouched", [](Story& s) {
-        CHECK(ReadFileBytes(s.program.store.Path(s.words)) == TestData(L"legacy-estimate.gfe")); }},
+        const Bytes content = ReadFileBytes(s.program.store.Path(s.words));
+        CHECK(content == TestData(L"legacy-estimate.gfe")); }},
     {L"text", [](Story& s) { CheckText(WindowText(s.target), s.text); }},
     {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
     {L"looks", [](Story& s) { CheckWindow(s.target, s.words, ScreenDpi()); }},
