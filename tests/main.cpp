@@ -7,6 +7,8 @@
 #include <atomic>
 #include <cstdio>
 
+#include "tests/ui/story.h"
+
 namespace {
 
 std::atomic<const char*> currentTest = "none";
@@ -50,5 +52,6 @@ REGISTER_LISTENER("names", 1, NameKeeper);
 
 int main(int argc, char** argv) {
     CloseHandle(CreateThread(nullptr, 0, EndHangs, nullptr, 0, nullptr));
+    tessaline::RegisterStories();
     return doctest::Context(argc, argv).run();
 }

@@ -5,8 +5,9 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <deque>
+#include <filesystem>
 #include <map>
-#include <optional>
 #include <regex>
 #include <sstream>
 #include <vector>
@@ -252,36 +253,63 @@ void PlayLine(Story& s, HWND window, const std::wstring& line) {
     if (found != kVerbs.end()) found->second(s);
 }
 
-}  // namespace
-
-void PlayStories(const std::wstring& file) {
-    std::wistringstream text(FromUtf8(TestData(file)));
+struct ToldStory {
+    std::string name;
     std::vector<std::wstring> lines;
-    for (std::wstring line; std::getline(text, line);) {
-        if (!line.empty() && line[0] != L'#') lines.push_back(line);
-    }
-    std::optional<Story> story;
-    std::wstring name;
-    INFO(Readable(name));
-    for (std::size_t next = 0; next < lines.size();) {
+};
+
+// Of all files. They stay where they are, because the test framework only borrows their names.
+std::deque<ToldStory> stories;
+
+// Plays the story that the test framework has begun.
+void PlayStory() {
+    const char* const name = doctest::getContextOptions()->currentTest->m_name;
+    const auto told = std::find_if(stories.begin(), stories.end(), [&](const ToldStory& story) {
+        return story.name.c_str() == name;
+    });
+    const std::vector<std::wstring>& lines = told->lines;
+    REQUIRE(lines[0].starts_with(L"story "));
+    Story story(_wtoi(lines[0].c_str() + 6));
+    for (std::size_t next = 1; next < lines.size();) {
         const std::wstring line = lines[next++];
-        if (line.starts_with(L"story ")) {
-            name = line.substr(6);
-            story.emplace(_wtoi(name.c_str()));
-            continue;
-        }
         for (; next < lines.size() && lines[next].starts_with(L"  "); ++next) {
             const std::wstring then = lines[next].substr(2);
             if (then.starts_with(L"box ")) {
-                story->program.ExpectBox(then.substr(4));
+                story.program.ExpectBox(then.substr(4));
             } else {
-                story->program.InDialog(
-                    [&, then](HWND dialog) { PlayLine(*story, dialog, then); });
+                story.program.InDialog([&, then](HWND dialog) { PlayLine(story, dialog, then); });
             }
         }
-        const HWND main = story->app.mainWindow;
-        PlayLine(*story, main, line);
+        const HWND main = story.app.mainWindow;
+        PlayLine(story, main, line);
         if (IsWindow(main)) CHECK(IsWindowEnabled(main));
+    }
+}
+
+void RegisterStoriesOf(const std::filesystem::path& file) {
+    std::wistringstream text(FromUtf8(ReadFileBytes(file.wstring())));
+    unsigned number = 0;
+    bool told = false;
+    for (std::wstring line; std::getline(text, line);) {
+        ++number;
+        if (line.empty() || line[0] == L'#') continue;
+        if (!told || line.starts_with(L"story ")) {
+            stories.push_back({Readable(line).c_str(), {}});
+            doctest::detail::TestCase test(PlayStory, file.generic_string().c_str(), number,
+                                           doctest::detail::TestSuite());
+            doctest::detail::regTest(test * stories.back().name.c_str());
+            told = true;
+        }
+        stories.back().lines.push_back(line);
+    }
+}
+
+}  // namespace
+
+void RegisterStories() {
+    const std::filesystem::path folder = std::wstring(kTestDataFolder) + L"/stories";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        if (entry.is_regular_file()) RegisterStoriesOf(entry.path());
     }
 }
 

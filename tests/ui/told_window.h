@@ -14,7 +14,7 @@ namespace tessaline {
 [[nodiscard]] RECT PlaceOf(HWND window);
 
 /// Checks a window, if it is a dialog, and every child that it has, in the order of creation,
-/// against a section of tests/data/windows.txt.
+/// against a section of tests/data/ui/windows.txt.
 void CheckWindow(HWND window, const std::wstring& section, int dpi = 96);
 
 /// The texts of a list, joined by bars, with a semicolon after each row.
