@@ -1,5 +1,7 @@
 #include "platform/window.h"
 
+#include "platform/message_box.h"
+
 namespace tessaline {
 namespace {
 
@@ -9,6 +11,22 @@ RECT WorkArea() {
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     return area;
+}
+
+// Whose box tells the user that a message was given up; null where nobody waits for its outcome.
+HWND OwnerOfBox(HWND window, UINT message) {
+    switch (message) {
+        case WM_CREATE:
+            // A dialog that does not open. The main window has no owner.
+            return GetWindow(window, GW_OWNER);
+        case WM_COMMAND:
+        case WM_NOTIFY:
+        case WM_CLOSE:
+            return GetAncestor(window, GA_ROOT);
+        default:
+            // A box would make Windows ask for painting again, and the automatic save is silent.
+            return nullptr;
+    }
 }
 
 }  // namespace
@@ -54,6 +72,7 @@ bool KeepFocus(HWND window, UINT message, WPARAM wParam) {
 }
 
 LRESULT AnswerAfterException(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    if (const HWND owner = OwnerOfBox(window, message)) ShowOutOfMemory(owner);
     switch (message) {
         case WM_NCCREATE:
             return FALSE;

@@ -67,7 +67,7 @@ template <typename State>
 [[nodiscard]] bool KeepFocus(HWND window, UINT message, WPARAM wParam);
 
 /// What a window does with a message whose handling ran out of memory: creation fails, closing is
-/// put off, anything else is left to Windows.
+/// put off, anything else is left to Windows. Where the user waits for an outcome, a box says so.
 LRESULT AnswerAfterException(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 using MessageHandler = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);

@@ -24,8 +24,8 @@ void MarkDirty() {
     if (App() != nullptr) App()->IsModified = true;
 }
 
-void SetStatusLine(const std::wstring& text) {
-    SetWindowTextW(App()->statusLine, text.c_str());
+void SetStatusLine(const wchar_t* text) {
+    SetWindowTextW(App()->statusLine, text);
 }
 
 }  // namespace tessaline

@@ -54,6 +54,6 @@ void PublishAppState(AppState* state);
 void MarkDirty();
 
 /// Shows a text on the bar's status line.
-void SetStatusLine(const std::wstring& text);
+void SetStatusLine(const wchar_t* text);
 
 }  // namespace tessaline

@@ -24,8 +24,8 @@ void NewCommand() {
                   L"New Estimate")) {
         return;
     }
-    app.CurrentFilePath.clear();
     BindToForm(NewEstimate());
+    app.CurrentFilePath.clear();
     SetStatusLine(L"Draft not saved yet");
 }
 

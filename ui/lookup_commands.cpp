@@ -74,7 +74,7 @@ std::optional<Element> Choose(const LookupKind<Element>& kind) {
         elements = kind.load(App()->store);
     }
     if (elements.empty()) {
-        ShowInformation(state.owner, kind.textWhenEmpty(), kind.captionWhenEmpty);
+        ShowInformation(state.owner, kind.textWhenEmpty().c_str(), kind.captionWhenEmpty);
         return std::nullopt;
     }
     if (ShowLookup(state, kind.title) != kLookupChosen || state.Selected < 0) return std::nullopt;

@@ -25,7 +25,7 @@ bool CheckBeforeOutput(const AppState& app) {
         return false;
     }
     if (const std::wstring failure = ValidateEstimate(app.currentEstimate); !failure.empty()) {
-        ShowWarning(app.mainWindow, failure, L"Check Estimate");
+        ShowWarning(app.mainWindow, failure.c_str(), L"Check Estimate");
         return false;
     }
     if (app.currentEstimate.EstimateStatus == kStatusCancelled) {
@@ -50,7 +50,8 @@ void MarkIssued(AppState& app) {
 void SaveSilently(AppState& app) {
     std::wstring path;
     std::wstring error;
-    if (SaveEstimate(app.store, app.currentEstimate, path, error)) app.CurrentFilePath = path;
+    if (!SaveEstimate(app.store, app.currentEstimate, path, error)) return;
+    app.CurrentFilePath.swap(path);
 }
 
 }  // namespace
@@ -58,6 +59,8 @@ void SaveSilently(AppState& app) {
 bool PrepareOutput() {
     AppState& app = *App();
     if (!CheckBeforeOutput(app)) return false;
+    // Until it is saved, nothing holds that it is issued: should memory run out, it stays so.
+    MarkDirty();
     MarkIssued(app);
     if (!IsSampleEstimate(app.currentEstimate)) SaveSilently(app);
     app.IsModified = false;
@@ -72,7 +75,7 @@ void PrintCommand() {
     if (!PrepareOutput()) return;
     std::wstring error;
     const bool printed = PrintEstimate(App()->mainWindow, App()->currentEstimate, error);
-    if (!printed && !error.empty()) ShowError(App()->mainWindow, error, L"Print");
+    if (!printed && !error.empty()) ShowError(App()->mainWindow, error.c_str(), L"Print");
 }
 
 }  // namespace tessaline

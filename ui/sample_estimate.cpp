@@ -92,8 +92,8 @@ void LoadSample() {
     AppState& app = *App();
     if (!AskYesNo(app.mainWindow, L"Replace the current form with sample data?", L"Sample"))
         return;
-    app.CurrentFilePath.clear();
     BindToForm(SampleEstimate());
+    app.CurrentFilePath.clear();
     MarkDirty();
     SetStatusLine(L"Sample data \u2014 not saved");
 }
