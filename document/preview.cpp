@@ -1,7 +1,8 @@
 #include "document/preview.h"
 
+#include <array>
+#include <cwchar>
 #include <memory>
-#include <string>
 
 #include "document/estimate_pages.h"
 #include "document/page_colours.h"
@@ -38,9 +39,10 @@ void MakeChildren(HWND window, PreviewState& state) {
 }
 
 void ShowPosition(const PreviewState& state) {
-    const std::wstring position = L"Page " + std::to_wstring(state.pageIndex + 1) + L" of " +
-                                  std::to_wstring(PageCount(state.estimate));
-    SetWindowTextW(state.pageLabel, position.c_str());
+    std::array<wchar_t, 40> position{};
+    std::swprintf(position.data(), position.size(), L"Page %d of %d", state.pageIndex + 1,
+                  PageCount(state.estimate));
+    SetWindowTextW(state.pageLabel, position.data());
 }
 
 void TurnPage(HWND window, PreviewState& state, int command) {

@@ -31,13 +31,19 @@ HWND MakeControl(HWND parent, int id, const Box& box, const ControlParts& parts)
     return control;
 }
 
-std::wstring EntryText(HWND choice, WPARAM index) {
+using EntryBuffer = std::array<wchar_t, kEntryLength>;
+
+std::wstring_view EntryText(HWND choice, WPARAM index, EntryBuffer& buffer) noexcept {
     // CB_GETLBTEXT writes as much as the entry holds: a longer one must not reach the buffer.
     const LRESULT length = SendMessageW(choice, CB_GETLBTEXTLEN, index, 0);
     if (length < 0 || static_cast<std::size_t>(length) >= kEntryLength) return {};
-    std::array<wchar_t, kEntryLength> text{};
-    SendMessageW(choice, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()));
-    return text.data();
+    SendMessageW(choice, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(buffer.data()));
+    return buffer.data();
+}
+
+bool IsSameText(std::wstring_view left, std::wstring_view right) noexcept {
+    return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                                static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
 }
 
 LRESULT CALLBACK PassTabAndEscape(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
@@ -106,13 +112,12 @@ std::wstring WindowText(HWND window) {
     return text;
 }
 
-void SelectChoice(HWND choice, const std::wstring& text) {
+void SelectChoice(HWND choice, std::wstring_view text) noexcept {
+    EntryBuffer buffer{};
     const LRESULT count = SendMessageW(choice, CB_GETCOUNT, 0, 0);
     LRESULT selected = 0;
     for (LRESULT index = 0; index < count; ++index) {
-        const std::wstring entry = EntryText(choice, static_cast<WPARAM>(index));
-        if (CompareStringOrdinal(entry.c_str(), -1, text.c_str(), -1, TRUE) != CSTR_EQUAL)
-            continue;
+        if (!IsSameText(EntryText(choice, static_cast<WPARAM>(index), buffer), text)) continue;
         selected = index;
         break;
     }
@@ -121,7 +126,9 @@ void SelectChoice(HWND choice, const std::wstring& text) {
 
 std::wstring ChoiceText(HWND choice) {
     const LRESULT index = SendMessageW(choice, CB_GETCURSEL, 0, 0);
-    return index == CB_ERR ? std::wstring() : EntryText(choice, static_cast<WPARAM>(index));
+    EntryBuffer buffer{};
+    if (index == CB_ERR) return {};
+    return std::wstring(EntryText(choice, static_cast<WPARAM>(index), buffer));
 }
 
 }  // namespace tessaline

@@ -6,6 +6,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace tessaline {
 
@@ -53,7 +54,7 @@ LRESULT ColourLabel(WPARAM context, COLORREF colour, HBRUSH background);
 [[nodiscard]] std::wstring WindowText(HWND window);
 
 /// Selects the first entry equal to `text`, ignoring case; the first entry when none is.
-void SelectChoice(HWND choice, const std::wstring& text);
+void SelectChoice(HWND choice, std::wstring_view text) noexcept;
 
 /// The selected entry, or empty when none is selected.
 [[nodiscard]] std::wstring ChoiceText(HWND choice);

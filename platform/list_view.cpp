@@ -37,12 +37,12 @@ HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColum
     return list;
 }
 
-void AppendListRow(HWND list, LPARAM data, std::initializer_list<const wchar_t*> cells) {
+void AppendListRow(HWND list, LPARAM data, std::span<const std::wstring> cells) {
     LVITEMW item{};
     item.iItem = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
     item.lParam = data;
-    for (const wchar_t* cell : cells) {
-        item.pszText = const_cast<wchar_t*>(cell);  // only read
+    for (const std::wstring& cell : cells) {
+        item.pszText = const_cast<wchar_t*>(cell.c_str());  // only read
         if (item.iSubItem == 0) {
             item.mask = LVIF_TEXT | LVIF_PARAM;
             SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));

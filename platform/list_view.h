@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <initializer_list>
 #include <span>
 #include <string>
 
@@ -23,7 +22,7 @@ HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColum
 
 /// Appends a row that carries `data`, with one text for each column. Callers that fill a list keep
 /// a `ListFill` meanwhile.
-void AppendListRow(HWND list, LPARAM data, std::initializer_list<const wchar_t*> cells);
+void AppendListRow(HWND list, LPARAM data, std::span<const std::wstring> cells);
 
 /// The data of the selected row, or -1 when none is selected.
 [[nodiscard]] int SelectedRowData(HWND list);

@@ -44,19 +44,6 @@ const ModeRow& ModeOf(const LookupState& state) {
     return kModes[static_cast<std::size_t>(state.Mode)];
 }
 
-void AppendRow(const LookupState& state, LPARAM index, const LookupRow& row) {
-    const auto& cells = row.cells;
-    if (state.Mode == LookupMode::kEstimates) {
-        AppendListRow(state.list, index,
-                      {cells[0].c_str(), cells[1].c_str(), cells[2].c_str(), cells[3].c_str(),
-                       cells[4].c_str(), cells[5].c_str()});
-    } else {
-        AppendListRow(state.list, index,
-                      {cells[0].c_str(), cells[1].c_str(), cells[2].c_str(), cells[3].c_str(),
-                       cells[4].c_str()});
-    }
-}
-
 void BuildControls(HWND window, LookupState& state) {
     const ModeRow& mode = ModeOf(state);
     state.window = window;
@@ -131,9 +118,12 @@ int ShowLookup(LookupState& state, const wchar_t* title) {
 void FillLookupList(const LookupState& state) {
     const std::wstring wanted = ToLower(Trim(WindowText(state.searchBox)));
     const ListFill fill(state.list, state.rows.size());
+    const std::size_t columns = ModeOf(state).columns().size();
     LPARAM index = 0;
     for (const LookupRow& row : state.rows) {
-        if (row.searchText.find(wanted) != std::wstring::npos) AppendRow(state, index, row);
+        if (row.searchText.find(wanted) != std::wstring::npos) {
+            AppendListRow(state.list, index, std::span(row.cells).first(columns));
+        }
         ++index;
     }
 }

@@ -1,10 +1,13 @@
 #include "ui/binding.h"
 
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "model/dates.h"
 #include "model/money.h"
 #include "model/text.h"
+#include "platform/list_view.h"
 #include "ui/app_state.h"
 #include "ui/control_ids.h"
 #include "ui/form_rows.h"
@@ -47,21 +50,75 @@ void ReadField(const FieldRow& row, Estimate& estimate) {
     }
 }
 
+// The texts of a list, row by row.
+using RowTexts = std::vector<std::vector<std::wstring>>;
+
+RowTexts LineTexts(const Estimate& estimate) {
+    RowTexts rows;
+    for (const ServiceLine& line : estimate.Lines) {
+        rows.push_back({line.ServiceItem, line.ServiceAddress, line.DiagnosisCode, CodeText(line),
+                        std::to_wstring(line.Quantity), FormatMoney(line.ExpectedCharge),
+                        FormatMoney(LineTotal(line))});
+    }
+    return rows;
+}
+
+RowTexts SeparateTexts(const Estimate& estimate) {
+    RowTexts rows;
+    for (const SeparateItem& item : estimate.SeparateItems) {
+        rows.push_back({item.ServiceItem, item.ProviderFacilityInstructions});
+    }
+    return rows;
+}
+
+std::wstring TotalText(const Estimate& estimate) {
+    return FormatMoney(TotalExpectedCharge(estimate));
+}
+
+void ShowRows(HWND list, const RowTexts& rows) {
+    const ListFill fill(list, rows.size());
+    LPARAM index = 0;
+    for (const auto& row : rows) AppendListRow(list, index++, row);
+}
+
 }  // namespace
+
+// In the functions below everything that needs memory comes first: from the line that replaces the
+// record on, nothing can fail, and no half of another record is ever shown.
 
 void BindToForm(Estimate estimate) {
     AppState& app = *App();
+    const RowTexts lines = LineTexts(estimate);
+    const RowTexts separateItems = SeparateTexts(estimate);
+    const std::wstring total = TotalText(estimate);
+    std::wstring savedStatus = estimate.EstimateStatus;
     app.currentEstimate = std::move(estimate);
     ForEachFieldRow([&](const FieldRow& row) { ShowField(row, app.currentEstimate); });
     EnableWindow(ControlById(kScheduledDatesEdit), !app.currentEstimate.NotYetScheduled);
-    RefreshLines();
-    RefreshSeparateItems();
-    RefreshTotal();
+    ShowRows(app.linesList, lines);
+    ShowRows(app.separateList, separateItems);
+    SetWindowTextW(app.totalAmount, total.c_str());
     app.invalidControls.clear();
     for (int section = 0; section < kMessageSections; ++section) SetSectionMessage(section, {});
     // Last, because setting texts has marked the state as modified.
     app.IsModified = false;
-    app.SavedStatus = app.currentEstimate.EstimateStatus;
+    app.SavedStatus.swap(savedStatus);
+}
+
+void ChangeLines(Estimate changed) {
+    const RowTexts lines = LineTexts(changed);
+    const std::wstring total = TotalText(changed);
+    App()->currentEstimate = std::move(changed);
+    ShowRows(App()->linesList, lines);
+    SetWindowTextW(App()->totalAmount, total.c_str());
+    MarkDirty();
+}
+
+void ChangeSeparateItems(Estimate changed) {
+    const RowTexts items = SeparateTexts(changed);
+    App()->currentEstimate = std::move(changed);
+    ShowRows(App()->separateList, items);
+    MarkDirty();
 }
 
 void ReadForm() {
@@ -72,34 +129,6 @@ void ReadForm() {
 
 std::wstring ControlText(int id) {
     return Trim(WindowText(ControlById(id)));
-}
-
-void RefreshLines() {
-    const auto& lines = App()->currentEstimate.Lines;
-    const ListFill fill(App()->linesList, lines.size());
-    LPARAM index = 0;
-    for (const ServiceLine& line : lines) {
-        AppendListRow(
-            App()->linesList, index++,
-            {line.ServiceItem.c_str(), line.ServiceAddress.c_str(), line.DiagnosisCode.c_str(),
-             CodeText(line).c_str(), std::to_wstring(line.Quantity).c_str(),
-             FormatMoney(line.ExpectedCharge).c_str(), FormatMoney(LineTotal(line)).c_str()});
-    }
-}
-
-void RefreshSeparateItems() {
-    const auto& items = App()->currentEstimate.SeparateItems;
-    const ListFill fill(App()->separateList, items.size());
-    LPARAM index = 0;
-    for (const SeparateItem& item : items) {
-        AppendListRow(App()->separateList, index++,
-                      {item.ServiceItem.c_str(), item.ProviderFacilityInstructions.c_str()});
-    }
-}
-
-void RefreshTotal() {
-    const std::wstring total = FormatMoney(TotalExpectedCharge(App()->currentEstimate));
-    SetWindowTextW(App()->totalAmount, total.c_str());
 }
 
 void SetSectionMessage(int section, const std::wstring& text) {

@@ -8,7 +8,8 @@
 namespace tessaline {
 
 /// Makes `estimate` the current record and shows it. Marks and messages of earlier checks go; the
-/// state is clean afterwards, although setting texts raises change notifications.
+/// state is clean afterwards, although setting texts raises change notifications. When memory runs
+/// out, the former record stays and is shown.
 void BindToForm(Estimate estimate);
 
 /// Reads every control into the current record and stamps its modification. The two lists are not
@@ -18,10 +19,10 @@ void ReadForm();
 /// The trimmed text of a control of the form.
 [[nodiscard]] std::wstring ControlText(int id);
 
-/// Refill the two lists and the total from the current record.
-void RefreshLines();
-void RefreshSeparateItems();
-void RefreshTotal();
+/// Make `changed`, which differs from the current record in its lines or its separate items alone,
+/// the current record, show them and note the change. All of it, or nothing when memory runs out.
+void ChangeLines(Estimate changed);
+void ChangeSeparateItems(Estimate changed);
 
 /// Shows a section's message line with `text`; an empty text hides it.
 void SetSectionMessage(int section, const std::wstring& text);

@@ -11,17 +11,6 @@
 namespace tessaline {
 namespace {
 
-void LinesChanged() {
-    RefreshLines();
-    RefreshTotal();
-    MarkDirty();
-}
-
-void SeparateItemsChanged() {
-    RefreshSeparateItems();
-    MarkDirty();
-}
-
 // The element of the selected row, or null when no row, or none that the record has, is selected.
 template <typename Element>
 Element* SelectedElement(HWND list, std::vector<Element>& elements) {
@@ -30,12 +19,12 @@ Element* SelectedElement(HWND list, std::vector<Element>& elements) {
     return known ? &elements[static_cast<std::size_t>(index)] : nullptr;
 }
 
-ServiceLine* SelectedLine() {
-    return SelectedElement(App()->linesList, App()->currentEstimate.Lines);
+ServiceLine* SelectedLine(Estimate& estimate) {
+    return SelectedElement(App()->linesList, estimate.Lines);
 }
 
-SeparateItem* SelectedSeparateItem() {
-    return SelectedElement(App()->separateList, App()->currentEstimate.SeparateItems);
+SeparateItem* SelectedSeparateItem(Estimate& estimate) {
+    return SelectedElement(App()->separateList, estimate.SeparateItems);
 }
 
 template <typename Element>
@@ -46,53 +35,60 @@ void Erase(std::vector<Element>& elements, const Element* element) {
 }  // namespace
 
 // An automatic save while a dialog or a question is open may replace the whole record by its next
-// revision, so elements are looked up again afterwards. The selection cannot change meanwhile.
+// revision, so the record is copied, and elements are looked up, only afterwards. The selection
+// cannot change meanwhile.
 
 void AddLine() {
-    ServiceLine line;
-    if (!EditServiceLine(App()->mainWindow, line)) return;
-    App()->currentEstimate.Lines.push_back(std::move(line));
-    LinesChanged();
+    EditServiceLine(App()->mainWindow, {}, [](const ServiceLine& line) {
+        Estimate changed = App()->currentEstimate;
+        changed.Lines.push_back(line);
+        ChangeLines(std::move(changed));
+    });
 }
 
 void EditLine() {
-    const ServiceLine* selected = SelectedLine();
+    const ServiceLine* selected = SelectedLine(App()->currentEstimate);
     if (selected == nullptr) return;
-    ServiceLine line = *selected;
-    if (!EditServiceLine(App()->mainWindow, line)) return;
-    if (ServiceLine* target = SelectedLine()) *target = std::move(line);
-    LinesChanged();
+    EditServiceLine(App()->mainWindow, *selected, [](const ServiceLine& line) {
+        Estimate changed = App()->currentEstimate;
+        if (ServiceLine* target = SelectedLine(changed)) *target = line;
+        ChangeLines(std::move(changed));
+    });
 }
 
 void RemoveLine() {
-    if (SelectedLine() == nullptr) return;
+    if (SelectedLine(App()->currentEstimate) == nullptr) return;
     if (!AskYesNo(App()->mainWindow, L"Remove the selected item?", L"Remove")) return;
-    if (const ServiceLine* target = SelectedLine()) Erase(App()->currentEstimate.Lines, target);
-    LinesChanged();
+    Estimate changed = App()->currentEstimate;
+    if (const ServiceLine* target = SelectedLine(changed)) Erase(changed.Lines, target);
+    ChangeLines(std::move(changed));
 }
 
 void AddSeparateItem() {
-    SeparateItem item;
-    if (!EditSeparateItem(App()->mainWindow, item)) return;
-    App()->currentEstimate.SeparateItems.push_back(std::move(item));
-    SeparateItemsChanged();
+    EditSeparateItem(App()->mainWindow, {}, [](const SeparateItem& item) {
+        Estimate changed = App()->currentEstimate;
+        changed.SeparateItems.push_back(item);
+        ChangeSeparateItems(std::move(changed));
+    });
 }
 
 void EditSelectedSeparateItem() {
-    const SeparateItem* selected = SelectedSeparateItem();
+    const SeparateItem* selected = SelectedSeparateItem(App()->currentEstimate);
     if (selected == nullptr) return;
-    SeparateItem item = *selected;
-    if (!EditSeparateItem(App()->mainWindow, item)) return;
-    if (SeparateItem* target = SelectedSeparateItem()) *target = std::move(item);
-    SeparateItemsChanged();
+    EditSeparateItem(App()->mainWindow, *selected, [](const SeparateItem& item) {
+        Estimate changed = App()->currentEstimate;
+        if (SeparateItem* target = SelectedSeparateItem(changed)) *target = item;
+        ChangeSeparateItems(std::move(changed));
+    });
 }
 
 // Removed without a question, unlike an expected item: it carries no charge.
 void RemoveSeparateItem() {
-    const SeparateItem* target = SelectedSeparateItem();
+    Estimate changed = App()->currentEstimate;
+    const SeparateItem* target = SelectedSeparateItem(changed);
     if (target == nullptr) return;
-    Erase(App()->currentEstimate.SeparateItems, target);
-    SeparateItemsChanged();
+    Erase(changed.SeparateItems, target);
+    ChangeSeparateItems(std::move(changed));
 }
 
 }  // namespace tessaline

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <span>
-#include <utility>
 
 #include "model/money.h"
 #include "model/text.h"
@@ -67,6 +66,7 @@ template <typename Row>
 struct DialogState : ModalState {
     const DialogKind* kind = nullptr;
     Row row;
+    void (*keep)(const Row&) = nullptr;
     std::array<HWND, kMostControls> controls{};  // by ID
 
     [[nodiscard]] std::wstring Text(int id) const {
@@ -152,7 +152,10 @@ LRESULT HandleDialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             return 0;
         case WM_COMMAND:
             if (HIWORD(wParam) != BN_CLICKED) return 0;
-            if (LOWORD(wParam) == kOkButton && Accept(*state)) EndModal(*state, true);
+            if (LOWORD(wParam) == kOkButton && Accept(*state)) {
+                state->keep(state->row);
+                EndModal(*state, true);
+            }
             if (LOWORD(wParam) == kCancelButton) EndModal(*state, false);
             return 0;
         case WM_CTLCOLORSTATIC:
@@ -166,19 +169,18 @@ LRESULT HandleDialogMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 template <typename Row>
-bool EditRow(HWND owner, const DialogKind& kind, Row& row) {
+void EditRow(HWND owner, const DialogKind& kind, const Row& row, void (*keep)(const Row&)) {
     RegisterWindowClass({kind.className, kind.procedure, CurrentTheme().whiteBrush.Get()});
     DialogState<Row> state;
     state.owner = owner;
     state.kind = &kind;
     state.row = row;
+    state.keep = keep;
     const HWND window =
         CreateWindowExW(WS_EX_DLGMODALFRAME, kind.className, kind.title, WS_CAPTION | WS_SYSMENU,
                         CW_USEDEFAULT, CW_USEDEFAULT, Scale(kind.width), Scale(kind.height), owner,
                         nullptr, ProgramInstance(), &state);
-    if (window == nullptr || !RunModal(state)) return false;
-    row = std::move(state.row);
-    return true;
+    if (window != nullptr) RunModal(state);
 }
 
 const DialogKind kLineDialog = {L"GFE_LineDialog",
@@ -201,12 +203,12 @@ const DialogKind kSeparateDialog = {L"GFE_SepDialog",
 
 }  // namespace
 
-bool EditServiceLine(HWND owner, ServiceLine& line) {
-    return EditRow(owner, kLineDialog, line);
+void EditServiceLine(HWND owner, const ServiceLine& line, void (*keep)(const ServiceLine&)) {
+    EditRow(owner, kLineDialog, line, keep);
 }
 
-bool EditSeparateItem(HWND owner, SeparateItem& item) {
-    return EditRow(owner, kSeparateDialog, item);
+void EditSeparateItem(HWND owner, const SeparateItem& item, void (*keep)(const SeparateItem&)) {
+    EditRow(owner, kSeparateDialog, item, keep);
 }
 
 }  // namespace tessaline

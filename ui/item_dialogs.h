@@ -7,11 +7,11 @@
 
 namespace tessaline {
 
-/// Edits an expected item on a copy. True when the user confirmed a valid one, which `line` then
-/// holds; otherwise `line` is untouched.
-[[nodiscard]] bool EditServiceLine(HWND owner, ServiceLine& line);
+/// Edits an expected item. `keep` receives a valid one that the user confirms; the dialog closes
+/// once it returns, so that nothing typed is lost when memory runs out in it.
+void EditServiceLine(HWND owner, const ServiceLine& line, void (*keep)(const ServiceLine&));
 
 /// Edits a separately scheduled service, likewise.
-[[nodiscard]] bool EditSeparateItem(HWND owner, SeparateItem& item);
+void EditSeparateItem(HWND owner, const SeparateItem& item, void (*keep)(const SeparateItem&));
 
 }  // namespace tessaline

@@ -35,16 +35,20 @@ bool SaveCommand(bool quiet, bool automatic) {
     AppState& app = *App();
     Validate(false);
     if (BecomesRevision(app)) StartRevision(app);
+    // Made first, so that nothing can run out of memory once the file is written.
+    std::wstring savedStatus = app.currentEstimate.EstimateStatus;
+    const std::wstring statusLine =
+        (automatic ? L"Auto-saved " : L"Saved ") + FormatTimestamp(NowSeconds(), true);
     std::wstring path;
     std::wstring error;
     if (!SaveEstimate(app.store, app.currentEstimate, path, error)) {
-        if (!quiet) ShowError(app.mainWindow, error, L"Save Error");
+        if (!quiet) ShowError(app.mainWindow, error.c_str(), L"Save Error");
         return false;
     }
-    app.CurrentFilePath = path;
+    app.CurrentFilePath.swap(path);
     app.IsModified = false;
-    app.SavedStatus = app.currentEstimate.EstimateStatus;
-    SetStatusLine((automatic ? L"Auto-saved " : L"Saved ") + FormatTimestamp(NowSeconds(), true));
+    app.SavedStatus.swap(savedStatus);
+    SetStatusLine(statusLine.c_str());
     if (!quiet) ShowInformation(app.mainWindow, L"Estimate saved locally.", L"Saved");
     return true;
 }

@@ -1,6 +1,7 @@
 #include "ui/validation_marks.h"
 
 #include <array>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -61,16 +62,17 @@ constexpr RuleRow kRules[] = {
 bool Validate(bool forOutput) {
     ReadForm();
     AppState& app = *App();
-    app.invalidControls.clear();
+    std::set<HWND> invalid;
     std::array<std::wstring, kMessageSections> messages;
     for (const RuleRow& rule : kRules) {
         if (rule.onlyForOutput && !forOutput) continue;
         std::wstring failure = rule.check(app.currentEstimate, forOutput);
         if (failure.empty()) continue;
-        app.invalidControls.insert(ControlById(rule.control));
+        invalid.insert(ControlById(rule.control));
         if (messages[rule.section].empty()) messages[rule.section] = std::move(failure);
     }
     if (forOutput) messages[kItemsMessage] = ValidateEstimate(app.currentEstimate);
+    app.invalidControls.swap(invalid);
     for (int section = 0; section < kMessageSections; ++section) {
         SetSectionMessage(section, messages[static_cast<std::size_t>(section)]);
     }
