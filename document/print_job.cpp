@@ -30,7 +30,13 @@ bool PrintDocument(HDC printer, const Estimate& estimate, std::wstring& error) {
         error = L"Could not start the print job.";
         return false;
     }
-    PrintPages(printer, estimate);
+    try {
+        PrintPages(printer, estimate);
+    } catch (...) {
+        // Half a document must not come out of the printer.
+        AbortDoc(printer);
+        throw;
+    }
     EndDoc(printer);
     return true;
 }
