@@ -1,6 +1,9 @@
 // The few platform services that the readers need, for the machine of the fuzzers. Texts are code
 // units of UTF-16 here too, each in a wider character.
+#include <algorithm>
+#include <codecvt>
 #include <cstring>
+#include <locale>
 
 #include "platform/secret_bytes.h"
 #include "platform/utf8.h"
@@ -8,54 +11,9 @@
 namespace tessaline {
 namespace {
 
-constexpr std::uint32_t kReplacement = 0xFFFD;
+const std::codecvt_utf8_utf16<wchar_t> conversion;
 
-void PutCodePoint(SecretBytes& bytes, std::uint32_t point) {
-    const int following = point < 0x80 ? 0 : point < 0x800 ? 1 : point < 0x10000 ? 2 : 3;
-    constexpr std::uint32_t kLead[] = {0, 0xC0, 0xE0, 0xF0};
-    bytes.push_back(static_cast<std::uint8_t>(kLead[following] | point >> (6 * following)));
-    for (int i = following - 1; i >= 0; --i) {
-        bytes.push_back(static_cast<std::uint8_t>(0x80 | (point >> (6 * i) & 0x3F)));
-    }
-}
-
-void PutUnits(std::wstring& text, std::uint32_t point) {
-    if (point < 0x10000) {
-        text.push_back(static_cast<wchar_t>(point));
-        return;
-    }
-    text.push_back(static_cast<wchar_t>(0xD800 + ((point - 0x10000) >> 10)));
-    text.push_back(static_cast<wchar_t>(0xDC00 + ((point - 0x10000) & 0x3FF)));
-}
-
-// The code point at the front of `utf8`, which is stepped over; ill-formed bytes one by one.
-std::uint32_t TakeCodePoint(ByteView& utf8) {
-    const std::uint8_t lead = utf8[0];
-    const std::size_t size = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-    constexpr std::uint32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
-    std::uint32_t point = size == 1 ? lead : lead & (0x7FU >> size);
-    bool valid = size > 0 && size <= utf8.size();
-    for (std::size_t i = 1; valid && i < size; ++i) {
-        valid = (utf8[i] & 0xC0) == 0x80;
-        point = point << 6 | (utf8[i] & 0x3F);
-    }
-    valid = valid && point >= kLeast[size] && point <= 0x10FFFF && (point & 0xFFFFF800) != 0xD800;
-    utf8 = utf8.subspan(valid ? size : 1);
-    return valid ? point : kReplacement;
-}
-
-bool IsHighSurrogate(wchar_t unit) {
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-
-bool IsLowSurrogate(wchar_t unit) {
-    return unit >= 0xDC00 && unit < 0xE000;
-}
+constexpr wchar_t kReplacement = 0xFFFD;
 
 }  // namespace
 
@@ -68,20 +26,39 @@ std::size_t Utf8Room(std::wstring_view text) {
 }
 
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto unit = static_cast<std::uint32_t>(text[i]);
-        if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
-            const auto low = static_cast<std::uint32_t>(text[++i]);
-            PutCodePoint(bytes, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
-        } else {
-            PutCodePoint(bytes, (unit & 0xFFFFF800) == 0xD800 ? kReplacement : unit);
-        }
+    const wchar_t* from = text.data();
+    const wchar_t* const end = from + text.size();
+    const std::size_t start = bytes.size();
+    bytes.resize(start + Utf8Room(text));
+    char* const first = reinterpret_cast<char*>(bytes.data());
+    char* to = first + start;
+    while (from != end) {
+        std::mbstate_t state{};
+        if (conversion.out(state, from, end, from, to, first + bytes.size(), to) ==
+            std::codecvt_base::ok)
+            continue;
+        // An unpaired surrogate.
+        ++from;
+        to = std::copy_n("\xEF\xBF\xBD", 3, to);
     }
+    bytes.resize(static_cast<std::size_t>(to - first));
 }
 
 std::wstring FromUtf8(ByteView utf8) {
-    std::wstring text;
-    while (!utf8.empty()) PutUnits(text, TakeCodePoint(utf8));
+    const char* from = reinterpret_cast<const char*>(utf8.data());
+    const char* const end = from + utf8.size();
+    std::wstring text(utf8.size(), L'\0');
+    wchar_t* to = text.data();
+    while (from != end) {
+        std::mbstate_t state{};
+        if (conversion.in(state, from, end, from, to, text.data() + text.size(), to) ==
+            std::codecvt_base::ok)
+            continue;
+        // Ill-formed bytes, one by one.
+        ++from;
+        *to++ = kReplacement;
+    }
+    text.resize(static_cast<std::size_t>(to - text.data()));
     return text;
 }
 

@@ -1,14 +1,27 @@
 #include "legacy/legacy_file.h"
 
+#include <regex>
+
 #include "legacy/legacy_cipher.h"
+#include "legacy/legacy_mapping.h"
+#include "legacy/sha256.h"
 #include "tests/support/distinct_estimate.h"
 #include "tests/support/legacy_writer.h"
-#include "tests/support/readable.h"
-#include "tests/support/test_data.h"
 
 using namespace tessaline;
 
 namespace {
+
+constexpr wchar_t kNotDecrypted[] = L"Could not decrypt the legacy estimate.";
+
+std::wstring Hex(ByteView bytes) {
+    std::wstring text;
+    for (const std::uint8_t byte : bytes) {
+        text += L"0123456789abcdef"[byte / 16];
+        text += L"0123456789abcdef"[byte % 16];
+    }
+    return text;
+}
 
 // A user's folders with the key file that the files in tests/data are encrypted under.
 struct OldFolder {
@@ -18,16 +31,21 @@ struct OldFolder {
         REQUIRE(WriteFileBytes(store->BaseFolder + L"\\data.key", key));
     }
 
-    // What opening says: "opened", the text for the user, or "nothing" where there is none.
+    // What opening says: "opened" and the identifier, the text for the user, or "nothing".
     std::wstring Open(const std::wstring& name) {
         std::wstring error = L"nothing";
         estimate = {};
         const bool opened = OpenLegacyEstimateFile(store.Path(name), store, estimate, error);
-        return opened && error == L"nothing" ? L"opened" : error;
+        return opened && error == L"nothing" ? L"opened " + estimate.EstimateId : error;
     }
 
     std::wstring OpenBytes(ByteView file) {
         REQUIRE(store.Put(L"a.gfe", file));
+        return Open(L"a.gfe");
+    }
+
+    std::wstring OpenDocument(std::wstring_view document) {
+        REQUIRE(PutLegacyFile(store, L"a.gfe", document));
         return Open(L"a.gfe");
     }
 
@@ -41,124 +59,166 @@ struct OldFolder {
     Estimate estimate;
 };
 
-constexpr wchar_t kNotDecrypted[] = L"Could not decrypt the legacy estimate.";
-constexpr wchar_t kNotParsed[] = L"Could not parse the legacy estimate data.";
-constexpr wchar_t kNoEstimate[] = L"The legacy file does not contain a valid Good Faith Estimate.";
-
-template <typename Record>
-void NumberTexts(Record& record, const std::wstring& prefix, const std::wstring& suffix) {
-    int number = 0;
-    ForEachField(record, [&](const wchar_t* name, std::wstring& text) {
-        text = prefix + std::to_wstring(number++) + L" " + name + suffix;
-    });
+bool Map(std::wstring_view json, Estimate& estimate) {
+    JsonCursor cursor{json};
+    JsonValue root;
+    REQUIRE(ParseValue(cursor, root));
+    return MapLegacyEstimate(root, estimate);
 }
 
-// The record in tests/data/legacy-estimate.gfe.
-Estimate RecordInTestData() {
+std::wstring WholeNumber(const std::wstring& number) {
     Estimate estimate;
-    estimate.EstimateId = estimate.RootEstimateId = L"GFE-20240229-235959";
-    estimate.CreatedOn = 1709251199;
-    estimate.LastModifiedOn = 1709280001;
-    estimate.EstimateStatus = kStatusRevised;
-    estimate.CoverageStatus = L"Self-pay (insured but not using insurance)";
-    estimate.TriggerReason = L"Patient requested estimate";
-    estimate.DeliveryMethod = L"Paper / In person";
-    NumberTexts(estimate.Patient, L"p", L" \u00e9");
-    estimate.Patient.ContactPreference = L"Mail";
-    NumberTexts(estimate.Provider, L"v", L" \u00df");
-    estimate.PrimaryService = L"R\u00e9fection \u2014 knee \xd83e\xddb5 repair";
-    estimate.PrimaryDiagnosis = L"Tear of meniscus";
-    estimate.PrimaryDiagnosisCode = L"S83.2";
-    estimate.SecondaryDiagnosis = L"\u00d3st";
-    estimate.SecondaryDiagnosisCode = L"M17";
-    estimate.NotYetScheduled = true;
-    estimate.ScheduledDates = L"04/01/2026; 04/08/2026";
-    estimate.Lines = {{L"Arthroscopy", L"12 Oak St", L"S83.2", L"CPT", L"29881", 2, 1234.5},
-                      {L"", L"", L"", L"Odd", L"", -1, 0.1}};
-    estimate.SeparateItems = {{L"Physical therapy", L"Ask the clinic."}, {}};
-    estimate.ProviderNotes = L"line one\r\nline two \xdbff\xdfff";
-    return estimate;
+    Map(LR"({"RevisionNumber":)" + number + LR"(,"Lines":[{"Quantity":)" + number + L"}]}",
+        estimate);
+    CHECK(estimate.Lines.at(0).Quantity == estimate.RevisionNumber);
+    return Told(estimate.RevisionNumber);
+}
+
+// One value of each kind, and what it gives to a field of each type.
+struct Sample {
+    const wchar_t* json = L"";
+    const wchar_t* text = L"";
+    double number = 0;
+    bool flag = false;
+};
+
+// `record` with what `sample` gives to each of its values.
+template <typename Record>
+Record Given(const Sample& sample, Record record) {
+    ForEachValue(L"", record, [&sample](const std::wstring& name, auto& value) {
+        using Value = std::remove_reference_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, std::wstring>) {
+            value = sample.text;
+            if (name == L"ContactPreference" && value.empty()) value = L"Email";
+        } else if constexpr (std::is_same_v<Value, bool>) {
+            value = sample.flag;
+        } else if constexpr (!std::is_same_v<Value, std::int64_t>) {
+            value = static_cast<Value>(sample.number);
+        }
+    });
+    return record;
 }
 
 }  // namespace
 
-TEST_CASE("A file of the older edition gives its record and stays as it is") {
+TEST_CASE("Hashes, keys, times, numbers and documents are read as the older edition had them") {
+    using Text = const std::wstring&;
     OldFolder folder;
-    const Bytes file = TestData(L"legacy-estimate.gfe");
-    CHECK(folder.OpenBytes(file) == L"opened");
-    CHECK(Differences(folder.estimate, RecordInTestData()) == L"");
-    CHECK(ReadFileBytes(folder.store.Path(L"a.gfe")) == file);
+    const std::function<std::wstring(std::wstring)> document =
+        [&folder](const std::wstring& json) { return folder.OpenDocument(json); };
+    CheckRules(
+        L"legacy.txt",
+        {{L"Sha256", +[](Text text) { return Hex(Sha256(Bytes(text.begin(), text.end()))); }},
+         {L"key", +[](Text user, Text path) { return Hex(DeriveLegacyKey(user, path)); }},
+         {L"one folder",
+          +[](Text one, Text two) {
+              return DeriveLegacyKey(L"ann", one) == DeriveLegacyKey(L"ann", two);
+          }},
+         {L"time", ParseLegacyTime},
+         {L"whole", WholeNumber},
+         {L"document", document}});
 }
 
-TEST_CASE("A file that ends early is refused, wherever it ends") {
-    const OldFolder folder;
-    const Bytes file = TestData(L"legacy-estimate.gfe");
-    for (std::size_t size = 0; size < file.size(); ++size) {
-        CAPTURE(size);
-        CHECK(folder.Decrypt(ByteView(file).first(size)) ==
-              (size < 32 ? L"nothing" : kNotDecrypted));
+TEST_CASE("Another folder and another user have another key") {
+    std::set<SecretBytes> keys = {DeriveLegacyKey(L"Ann", L"ann")};
+    for (const wchar_t* folder : {L"C:\\ann", L"C:ann", L"\\ann", L"ann", L"\\\\ann", L"..\\ann",
+                                  L"..\\..\\ann", L"\\ann\\ann", L"\\\\ann\\ann"}) {
+        keys.insert(DeriveLegacyKey(L"ann", folder));
+    }
+    CHECK(keys.size() == 10);
+}
+
+TEST_CASE("A key file counts when it holds exactly 32 bytes") {
+    std::array<wchar_t, 256> user{};
+    DWORD size = static_cast<DWORD>(user.size());
+    REQUIRE(GetUserNameW(user.data(), &size));
+    const TemporaryStore store;
+    const SecretBytes derived = DeriveLegacyKey(user.data(), store->BaseFolder);
+    CHECK(GetLegacyKey(store) == derived);
+    for (const std::size_t length : {0U, 31U, 32U, 33U}) {
+        const SecretBytes file(length, 0x5A);
+        REQUIRE(WriteFileBytes(store->BaseFolder + L"\\data.key", file));
+        CHECK(GetLegacyKey(store) == (length == 32 ? file : derived));
     }
 }
 
-TEST_CASE("A file with one byte changed is refused, whichever it is") {
+TEST_CASE("A file of the older edition gives its record and stays as it is") {
+    OldFolder folder;
+    const Bytes file = TestData(L"legacy-estimate.gfe");
+    CHECK(folder.OpenBytes(file) == L"opened GFE-20240229-235959");
+    CHECK(Differences(folder.estimate, RecordOf(L"record.txt", {L"full", L"legacy"})) == L"");
+    CHECK(ReadFileBytes(folder.store.Path(L"a.gfe")) == file);
+    folder.UseKey(Bytes(32, 1));
+    CHECK(folder.Open(L"a.gfe") == kNotDecrypted);
+    CHECK(folder.Open(L"missing.gfe") == L"nothing");
+}
+
+TEST_CASE("A file that ends early, or in which any byte is another, is refused") {
     const OldFolder folder;
     Bytes file = TestData(L"legacy-estimate.gfe");
+    CHECK(folder.Decrypt(file) == L"decrypted");
     for (std::size_t at = 0; at < file.size(); ++at) {
         CAPTURE(at);
+        CHECK(folder.Decrypt(ByteView(file).first(at)) == (at < 32 ? L"nothing" : kNotDecrypted));
         file[at] ^= 0x10;
         CHECK(folder.Decrypt(file) == (at < 4 ? L"nothing" : kNotDecrypted));
         file[at] ^= 0x10;
     }
-    CHECK(folder.Decrypt(file) == L"decrypted");
 }
 
 TEST_CASE("A file without a document is no estimate, but its tag is checked all the same") {
-    OldFolder folder;
+    const OldFolder folder;
     Bytes file = TestData(L"legacy-empty.gfe");
-    CHECK(folder.OpenBytes(file) == L"nothing");
+    CHECK(folder.Decrypt(file) == L"nothing");
     file[16] ^= 1;
-    CHECK(folder.OpenBytes(file) == kNotDecrypted);
-}
-
-TEST_CASE("A file under another key is refused") {
-    OldFolder folder;
-    REQUIRE(folder.store.Put(L"a.gfe", TestData(L"legacy-estimate.gfe")));
-    folder.UseKey(Bytes(32, 1));
-    CHECK(folder.Open(L"a.gfe") == kNotDecrypted);
-    folder.UseKey({});
-    CHECK(folder.Open(L"a.gfe") == kNotDecrypted);
+    CHECK(folder.Decrypt(file) == kNotDecrypted);
 }
 
 TEST_CASE("Without a key file the derived key opens the file, every field in its place") {
     OldFolder folder;
     folder.UseKey({});
     const Estimate saved = DistinctEstimate();
-    REQUIRE(PutLegacyFile(folder.store, L"a.gfe", LegacyDocument(saved)));
-    CHECK(folder.Open(L"a.gfe") == L"opened");
+    CHECK(folder.OpenDocument(LegacyDocument(saved)) == L"opened " + saved.EstimateId);
     CHECK(Differences(folder.estimate, saved) == L"ReservedFlag ");
 }
 
-TEST_CASE("Each way in which a file can be wrong has its text") {
-    struct Row {
-        std::wstring_view document;
-        const wchar_t* outcome;
-    };
-    const Row rows[] = {
-        {LR"({"EstimateId":"\ud83e"})", L"opened"},
-        {LR"( {"EstimateId":"a"} and more)", L"opened"},
-        {LR"({"EstimateId":"a")", kNotParsed},
-        {L" ", kNotParsed},
-        {LR"([{"EstimateId":"a"}])", kNoEstimate},
-        {LR"({"EstimateId":""})", kNoEstimate},
-        {L"null", kNoEstimate},
-    };
+TEST_CASE("A document that nests without end is refused") {
     OldFolder folder;
-    for (const Row& row : rows) {
-        CAPTURE(row.document);
-        REQUIRE(PutLegacyFile(folder.store, L"a.gfe", row.document));
-        CHECK(folder.Open(L"a.gfe") == row.outcome);
+    CHECK(folder.OpenDocument(std::wstring(524'288, L'[')) ==
+          L"Could not parse the legacy estimate data.");
+}
+
+TEST_CASE("A field of the wrong kind is empty, 0 or false, not the field's default") {
+    const Sample samples[] = {{L"null"},        {L"true", L"", 0, true}, {L"7.9", L"", 7.9},
+                              {L"\"7\"", L"7"}, {L"\"true\"", L"true"},  {L"{}"},
+                              {L"[]"}};
+    // A member for every value of every record.
+    std::wstring members = L"\"\":0}";
+    const Estimate everything = DistinctEstimate();
+    ForEachValue(L"", everything, [&members](const std::wstring& name, const auto&) {
+        members.insert(0, L"\"" + name + L"\":@,");
+    });
+    const auto map = [&members](const wchar_t* shape, const Sample& sample, Estimate& estimate) {
+        const std::wstring json = std::regex_replace(shape, std::wregex(L"#"), members);
+        return Map(std::regex_replace(json, std::wregex(L"@"), sample.json), estimate);
+    };
+    for (const Sample& sample : samples) {
+        CAPTURE(sample.json);
+        const bool isEstimate = sample.text[0] != L'\0';
+        Estimate flat;
+        CHECK(map(LR"({"Patient":@,"Provider":@,"Lines":@,"SeparateItems":@,#)", sample, flat) ==
+              isEstimate);
+        Estimate expected = Given(sample, Estimate());
+        expected.Patient = Given({}, PatientInfo());
+        expected.Provider = {};
+        CHECK(Differences(flat, expected) == L"");
+
+        Estimate deep;
+        CHECK(map(LR"({"Patient":{#,"Provider":{#,"Lines":[{#,@],"SeparateItems":[@,{#],#)",
+                  sample, deep) == isEstimate);
+        expected = Given(sample, Estimate());
+        expected.Lines = {Given(sample, ServiceLine()), Given({}, ServiceLine())};
+        expected.SeparateItems = {SeparateItem(), Given(sample, SeparateItem())};
+        CHECK(Differences(deep, expected) == L"");
     }
-    REQUIRE(PutLegacyFile(folder.store, L"a.gfe", std::wstring(524'288, L'[')));
-    CHECK(folder.Open(L"a.gfe") == kNotParsed);
-    CHECK(folder.Open(L"missing.gfe") == L"nothing");
 }

@@ -1,31 +1,21 @@
 #include "model/estimate.h"
 
-#include <cstdint>
-
 #include "model/dates.h"
 #include "model/new_estimate.h"
-#include "tests/support/readable.h"
+#include "model/validation.h"
+#include "tests/support/record_values.h"
 
 using namespace tessaline;
-
-TEST_CASE("A new line is one CPT code without a charge") {
-    CHECK((ServiceLine() == ServiceLine{L"", L"", L"", L"CPT", L"", 1, 0.0}));
-}
 
 TEST_CASE("The total is the sum of quantity times charge, unrounded") {
     Estimate estimate;
     CHECK(TotalExpectedCharge(estimate) == 0.0);
-    estimate.Lines = {{L"", L"", L"", L"", L"", 2, 10.25}, {L"", L"", L"", L"", L"", 3, 0.5}};
-    CHECK(TotalExpectedCharge(estimate) == 22.0);
-    estimate.Lines[1] = {L"", L"", L"", L"", L"", -1, 5.001};
+    estimate.Lines = {{L"", L"", L"", L"", L"", 2, 10.25}, {L"", L"", L"", L"", L"", -1, 5.001}};
     CHECK(TotalExpectedCharge(estimate) == 20.5 - 5.001);
 }
 
-TEST_CASE("A code is shown after its type") {
-    ServiceLine line;
-    CHECK(CodeText(line) == L"CPT");
-    line.ServiceCode = L"29881";
-    CHECK(CodeText(line) == L"CPT 29881");
+TEST_CASE("A new line is one CPT code without a charge") {
+    CHECK((ServiceLine() == ServiceLine{L"", L"", L"", L"CPT", L"", 1, 0.0}));
 }
 
 TEST_CASE("A new estimate has an identifier, which is its root, and was made now") {
@@ -38,4 +28,14 @@ TEST_CASE("A new estimate has an identifier, which is its root, and was made now
     CHECK(estimate.CreatedOn <= NowSeconds());
     CHECK(estimate.LastModifiedOn == estimate.CreatedOn);
     CHECK(estimate.IssuedOn == 0);
+}
+
+TEST_CASE("The first rule that an estimate breaks is what the user is told") {
+    Estimate estimate;
+    const std::function<std::wstring(std::wstring, std::wstring)> set =
+        [&estimate](const std::wstring& path, const std::wstring& text) {
+            REQUIRE(SetValue(estimate, path, text));
+            return ValidateEstimate(estimate);
+        };
+    CheckRules(L"validation.txt", {{L"set", set}});
 }

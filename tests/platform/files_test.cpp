@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include "platform/system_error.h"
 #include "tests/support/readable.h"
 #include "tests/support/temporary_store.h"
 
@@ -52,4 +53,12 @@ TEST_CASE("A listing has the files that match, until the visitor has enough") {
     CHECK(seen == 4);
     ForEachFile(store.Path(L"missing"), L"*", count);
     CHECK(seen == 4);
+}
+
+TEST_CASE("Error codes have the system's text on one line, or none") {
+    const std::wstring text = SystemErrorText(ERROR_ACCESS_DENIED);
+    CHECK_FALSE(text.empty());
+    CHECK(text != L"Unknown error");
+    CHECK(text.find_last_not_of(L" \r\n") == text.size() - 1);
+    CHECK(SystemErrorText(0xE1234567) == L"Unknown error");
 }

@@ -1,10 +1,8 @@
 #include "store/catalogue.h"
 
-#include <initializer_list>
 #include <string_view>
 
 #include "tests/support/distinct_estimate.h"
-#include "tests/support/readable.h"
 #include "tests/support/temporary_store.h"
 
 using namespace tessaline;
@@ -15,41 +13,20 @@ Bytes Text(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-// An estimate with that patient; the phone number tells which.
-Estimate OfPatient(const wchar_t* first, const wchar_t* last, const wchar_t* birth,
-                   const wchar_t* phone, std::int64_t modified) {
-    Estimate estimate;
-    estimate.Patient.FirstName = first;
-    estimate.Patient.LastName = last;
-    estimate.Patient.DateOfBirth = birth;
-    estimate.Patient.Phone = phone;
-    estimate.LastModifiedOn = modified;
-    return estimate;
-}
-
-Estimate OfProvider(const wchar_t* name, const wchar_t* npi, const wchar_t* street,
-                    const wchar_t* city, const wchar_t* state, const wchar_t* phone,
-                    std::int64_t modified) {
-    Estimate estimate;
-    estimate.Provider = {name, L"", street, city, state, L"", L"", phone, L"", npi, L"", L""};
-    estimate.LastModifiedOn = modified;
-    return estimate;
-}
-
-void PutAll(const TemporaryStore& store, std::initializer_list<Estimate> estimates) {
+void PutAll(const TemporaryStore& store, const std::wstring& rule) {
     int count = 0;
-    for (const Estimate& estimate : estimates) {
+    for (const Estimate& estimate : RecordsOf(L"catalogue.txt", rule)) {
         store.PutEstimate(std::to_wstring(++count) + L".gfe", estimate);
     }
 }
 
 // Each summary as "phone, last used, count; ".
 template <typename Summary, typename Block>
-std::wstring Told(const std::vector<Summary>& list, Block Summary::*block) {
+std::wstring List(const std::vector<Summary>& list, Block Summary::*block) {
     std::wstring told;
     for (const Summary& summary : list) {
-        told += (summary.*block).Phone + L", " + std::to_wstring(summary.LastUsed) + L", " +
-                std::to_wstring(summary.EstimateCount) + L"; ";
+        told += (summary.*block).Phone + L", " + Told(summary.LastUsed) + L", " +
+                Told(summary.EstimateCount) + L"; ";
     }
     return told;
 }
@@ -70,11 +47,13 @@ TEST_CASE("A folder that is empty or missing gives empty lists") {
 
 TEST_CASE("Estimates come newest first, each with the path of its file") {
     const TemporaryStore store;
-    store.PutEstimate(L"b.gfe", DistinctEstimate(300));
-    store.PutEstimate(L"a.GFE", DistinctEstimate(900));
-    store.PutEstimate(L"c.gfe", DistinctEstimate(-500));
-    store.PutEstimate(L"d.gfe", DistinctEstimate(600));
-    store.PutEstimate(L"e.gfx", DistinctEstimate(700));
+    for (const auto& [name, seed] : std::map<std::wstring, int>{{L"b.gfe", 300},
+                                                                {L"a.GFE", 900},
+                                                                {L"c.gfe", -500},
+                                                                {L"d.gfe", 600},
+                                                                {L"e.gfx", 700}}) {
+        store.PutEstimate(name, DistinctEstimate(seed));
+    }
     std::wstring paths;
     for (const SavedEstimateEntry& entry : LoadAllEstimates(store)) {
         paths += entry.FilePath.substr(store->EstimatesFolder.size()) + L" ";
@@ -85,9 +64,9 @@ TEST_CASE("Estimates come newest first, each with the path of its file") {
 
 TEST_CASE("What cannot be read is left out without a word") {
     const TemporaryStore store;
-    store.PutEstimate(L"good.gfe", DistinctEstimate());
-    store.PutEstimate(L"locked.gfe", DistinctEstimate());
-    store.PutEstimate(L"cut.gfe", DistinctEstimate());
+    for (const wchar_t* name : {L"good.gfe", L"locked.gfe", L"cut.gfe"}) {
+        store.PutEstimate(name, DistinctEstimate());
+    }
     Bytes cut = ReadFileBytes(store.Path(L"cut.gfe"));
     cut.resize(cut.size() / 2);
     store.Put(L"cut.gfe", cut);
@@ -116,39 +95,23 @@ TEST_CASE("Older files are known by their first four bytes, readable or not") {
 
 TEST_CASE("Patients are told apart by name and date of birth as typed") {
     const TemporaryStore store;
-    PutAll(store, {OfPatient(L"Ann", L"Lee", L"01/02/1990", L"old", 100),
-                   OfPatient(L" ANN", L"lee\t", L" 01/02/1990", L"new", 300),
-                   OfPatient(L"ann", L"Lee", L"01/02/1990", L"older", 50),
-                   OfPatient(L"Ann", L"Lee", L"1/2/1990", L"other date", 200),
-                   OfPatient(L"", L"Lee", L"01/02/1990", L"no first", 250),
-                   OfPatient(L"Lee", L"", L"01/02/1990", L"no last", 260),
-                   OfPatient(L" ", L"\t", L"01/02/1990", L"nameless", 400),
-                   OfPatient(L"Bo", L"Fox", L"", L"before 1970", -5)});
-    CHECK(Told(BuildPatientList(store), &PatientSummary::Patient) ==
+    PutAll(store, L"patient");
+    CHECK(List(BuildPatientList(store), &PatientSummary::Patient) ==
           L"new, 300, 3; no last, 260, 1; no first, 250, 1; other date, 200, 1; "
           L"before 1970, -5, 1; ");
 }
 
 TEST_CASE("Providers are told apart by name and NPI, or without one by address") {
     const TemporaryStore store;
-    PutAll(store, {OfProvider(L"Clinic A", L"12 3456-7890", L"1 Oak", L"X", L"IL", L"old", 100),
-                   OfProvider(L"clinic a ", L"1234567890", L"2 Elm", L"Y", L"WI", L"new", 110),
-                   OfProvider(L"Clinic A", L"1234567891", L"1 Oak", L"X", L"IL", L"npi", 120),
-                   OfProvider(L"Clinic A", L"n/a", L"1 Oak", L"X", L"IL", L"old place", 200),
-                   OfProvider(L" CLINIC A", L"", L"1 oak ", L"x", L" il", L"new place", 210),
-                   OfProvider(L"Clinic A", L"", L"2 Oak", L"X", L"IL", L"street", 220),
-                   OfProvider(L"Clinic A", L"", L"1 Oak", L"Z", L"IL", L"city", 230),
-                   OfProvider(L"Clinic A", L"", L"1 Oak", L"X", L"WI", L"state", 240),
-                   OfProvider(L"\t", L"1234567890", L"1 Oak", L"X", L"IL", L"nameless", 300)});
-    CHECK(Told(BuildProviderList(store), &ProviderSummary::Provider) ==
+    PutAll(store, L"provider");
+    CHECK(List(BuildProviderList(store), &ProviderSummary::Provider) ==
           L"state, 240, 1; city, 230, 1; street, 220, 1; new place, 210, 2; npi, 120, 1; "
           L"new, 110, 2; ");
 }
 
 TEST_CASE("Estimates of one second are counted, and one of them is shown") {
     const TemporaryStore store;
-    PutAll(store, {OfPatient(L"Ann", L"Lee", L"", L"same", 0),
-                   OfPatient(L"Ann", L"Lee", L"", L"same", 0)});
+    PutAll(store, L"same second");
     CHECK(LoadAllEstimates(store).size() == 2);
-    CHECK(Told(BuildPatientList(store), &PatientSummary::Patient) == L"same, 0, 2; ");
+    CHECK(List(BuildPatientList(store), &PatientSummary::Patient) == L"same, 0, 2; ");
 }

@@ -4,8 +4,6 @@
 #include <map>
 
 #include "tests/support/distinct_estimate.h"
-#include "tests/support/readable.h"
-#include "tests/support/test_data.h"
 
 using namespace tessaline;
 
@@ -30,27 +28,8 @@ Bytes Plain(const SecretBytes& payload) {
 
 // The record in tests/data/payload-full.bin.
 Estimate FullEstimate() {
-    const auto numbered = [](auto record, const std::wstring& prefix, const std::wstring& suffix) {
-        ForEachField(record, [&, count = 0](const wchar_t* name, std::wstring& text) mutable {
-            text = prefix + std::to_wstring(count++) + L" " + name + suffix;
-        });
-        return record;
-    };
-    // clang-format off
-    Estimate estimate = {
-        L"GFE-20260307-140509-R2", L"GFE-20260307-140509", L"GFE-20260307-140509-R1", 2,
-        1772892309, 1772895909, 1772899509, -1, L"Revised",
-        L"Self-pay (insured but not using insurance)", L"Patient requested estimate",
-        L"Paper / In person",
-        numbered(PatientInfo(), L"p", L" \u00E9"), numbered(ProviderInfo(), L"v", L" \u00DF"),
-        L"R\u00E9fection \u2014 knee \U0001F9B5 repair", L"Tear of meniscus", L"S83.2",
-        L"\u00D3st", L"M17", true, L"04/01/2026; 04/08/2026",
-        {{L"Arthroscopy", L"12 Oak St", L"S83.2", L"CPT", L"29881", 2, 1234.5},
-         {L"", L"", L"", L"Odd", L"", -1, 0.1}},
-        {{L"Physical therapy", L"Ask the clinic."}, {}},
-        L"line one\r\nline two \U0010FFFF", true};
-    // clang-format on
-    estimate.Patient.ContactPreference = L"Mail";
+    Estimate estimate = RecordOf(L"record.txt", {L"full", L"native"});
+    estimate.ReservedFlag = true;
     return estimate;
 }
 

@@ -1,62 +1,40 @@
 #include "store/revision.h"
 
-#include <limits>
-
 #include "model/dates.h"
+#include "model/text.h"
 #include "tests/support/distinct_estimate.h"
-#include "tests/support/readable.h"
 #include "tests/support/temporary_store.h"
 
 using namespace tessaline;
 
 namespace {
 
-struct Member {
-    const wchar_t *id, *root;
-    std::int32_t number;
-};
-
-Estimate Of(const Member& member) {
+// An estimate told as "identifier/root/number".
+Estimate Member(const std::wstring& told) {
     Estimate estimate = DistinctEstimate();
-    estimate.EstimateId = member.id;
-    estimate.RootEstimateId = member.root;
-    estimate.RevisionNumber = member.number;
+    std::wistringstream parts(told);
+    std::getline(parts, estimate.EstimateId, L'/');
+    std::getline(parts, estimate.RootEstimateId, L'/');
+    parts >> estimate.RevisionNumber;
     return estimate;
+}
+
+std::wstring Revise(const std::wstring& revised, const std::wstring& saved) {
+    const TemporaryStore store;
+    std::wistringstream members(saved);
+    for (std::wstring member; members >> member;) {
+        store.PutEstimate(CleanFileName(member) + L".gfe", Member(member));
+    }
+    const Estimate revision = MakeRevision(store, Member(revised));
+    CHECK(revision.ParentEstimateId == Member(revised).EstimateId);
+    return revision.EstimateId + L"/" + revision.RootEstimateId + L"/" +
+           Told(revision.RevisionNumber);
 }
 
 }  // namespace
 
 TEST_CASE("A revision is numbered above every saved member of its family") {
-    struct Row {
-        Member revised;
-        std::vector<Member> saved;
-        const wchar_t *id, *root;
-        std::int32_t number;
-    };
-    constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-    const Row rows[] = {
-        {{L"G", L"G", 0}, {}, L"G-R1", L"G", 1},
-        {{L"G", L"", 0}, {{L"G", L"G", 0}}, L"G-R1", L"G", 1},
-        {{L"G-R1", L"G", 1}, {{L"G-R3", L"G", 3}, {L"G-R2", L"G", 2}}, L"G-R4", L"G", 4},
-        {{L"G-R9", L"G", 9}, {{L"G-R3", L"G", 3}}, L"G-R10", L"G", 10},
-        {{L"G", L"G", 0}, {{L"G", L"", 5}}, L"G-R6", L"G", 6},
-        {{L"G", L"", 0}, {{L"x", L"G", 5}}, L"G-R6", L"G", 6},
-        {{L"G-R1", L"G", 1}, {{L"x", L"G-R1", 7}, {L"y", L"g", 8}}, L"G-R2", L"G", 2},
-        {{L"", L"", 0}, {{L"x", L"", 4}}, L"-R5", L"", 5},
-        {{L"G", L"G", -7}, {}, L"G-R-6", L"G", -6},
-        {{L"G", L"G", kLargest}, {}, L"G-R-2147483648", L"G", -kLargest - 1},
-    };
-    for (const Row& row : rows) {
-        const TemporaryStore store;
-        for (const Member& member : row.saved) {
-            store.PutEstimate(member.id + std::wstring(L".gfe"), Of(member));
-        }
-        const Estimate revision = MakeRevision(store, Of(row.revised));
-        CHECK(revision.EstimateId == row.id);
-        CHECK(revision.RootEstimateId == row.root);
-        CHECK(revision.ParentEstimateId == row.revised.id);
-        CHECK(revision.RevisionNumber == row.number);
-    }
+    CheckRules(L"revision.txt", {{L"revision", Revise}});
 }
 
 TEST_CASE("A revision is a fresh draft with everything else kept, and is not saved") {

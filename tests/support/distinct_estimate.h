@@ -5,46 +5,28 @@
 #include <string>
 #include <type_traits>
 
-#include "model/estimate_fields.h"
+#include "tests/support/record_values.h"
 
 namespace tessaline {
-namespace distinct {
-
-template <typename Value>
-void Fill(const std::wstring& name, Value& value, int& number);
-
-template <typename Record>
-void FillFields(Record& record, int& number) {
-    ForEachField(record, [&](const wchar_t* name, auto& value) { Fill(name, value, number); });
-}
-
-/// Gives `value`, or every field of the record or list that it is, the next number.
-template <typename Value>
-void Fill(const std::wstring& name, Value& value, int& number) {
-    if constexpr (std::is_same_v<Value, std::wstring>) {
-        value = name + L" " + std::to_wstring(number++);
-    } else if constexpr (std::is_same_v<Value, bool>) {
-        value = true;
-    } else if constexpr (std::is_same_v<Value, double>) {
-        value = number++ + 0.1;
-    } else if constexpr (std::is_arithmetic_v<Value>) {
-        value = number++;
-    } else if constexpr (requires { value.resize(2); }) {
-        value.resize(2);
-        for (auto& element : value) FillFields(element, number);
-    } else {
-        FillFields(value, number);
-    }
-}
-
-}  // namespace distinct
 
 /// Texts are the field's name and a number, numbers are numbers, flags are true and lists hold two
 /// elements; the numbers start at `seed`, and no two fields share one. Seeds that are 100 apart
 /// give records without a common value.
 [[nodiscard]] inline Estimate DistinctEstimate(int seed = 100) {
     Estimate estimate;
-    distinct::FillFields(estimate, seed);
+    estimate.Lines.resize(2);
+    estimate.SeparateItems.resize(2);
+    ForEachValue(L"", estimate, [&seed](const std::wstring& name, auto& value) {
+        using Value = std::remove_reference_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, std::wstring>) {
+            value = name + L" " + std::to_wstring(seed++);
+        } else if constexpr (std::is_same_v<Value, bool>) {
+            value = true;
+        } else {
+            value = static_cast<Value>(seed++);
+            if constexpr (std::is_floating_point_v<Value>) value += 0.1;
+        }
+    });
     estimate.ReservedFlag = true;
     return estimate;
 }

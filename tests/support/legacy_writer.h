@@ -3,7 +3,7 @@
 
 #include <array>
 #include <charconv>
-#include <chrono>
+#include <ctime>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -27,17 +27,11 @@ inline std::wstring Quoted(const std::wstring& text) {
 }
 
 inline std::wstring TimeText(std::int64_t stamp) {
-    using namespace std::chrono;
     if (stamp <= 0) return L"null";
-    const sys_seconds time{seconds(stamp)};
-    const year_month_day date(floor<days>(time));
-    const hh_mm_ss clock(time - floor<days>(time));
-    std::array<wchar_t, 64> text{};
-    std::swprintf(text.data(), text.size(), L"\"%04d-%02u-%02uT%02d:%02d:%02d.1234567Z\"",
-                  int(date.year()), unsigned(date.month()), unsigned(date.day()),
-                  int(clock.hours().count()), int(clock.minutes().count()),
-                  int(clock.seconds().count()));
-    return text.data();
+    std::tm time{};
+    _gmtime64_s(&time, &stamp);
+    wchar_t text[64];
+    return {text, std::wcsftime(text, 64, L"\"%Y-%m-%dT%H:%M:%S.1234567Z\"", &time)};
 }
 
 template <typename Value>
