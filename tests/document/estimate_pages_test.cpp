@@ -5,10 +5,11 @@
 #include <regex>
 #include <sstream>
 
-#include "document/items_table.h"
 #include "document/page_drawing.h"
+#include "document/print_job.h"
 #include "tests/document/recorded_drawing.h"
 #include "tests/support/readable.h"
+#include "tests/support/stand_in.h"
 #include "tests/support/test_data.h"
 
 using namespace tessaline;
@@ -50,33 +51,64 @@ bool Shows(const Recording& page, const std::wstring& start) {
                        [&](const std::wstring& line) { return line.starts_with(start); });
 }
 
-/// Compares with a file that holds the lines of a recording, with "preview|print" where the two
+/// Compares with files that hold the lines of a recording, with "preview|print" where the two
 /// differ.
-void CheckAgainst(const std::wstring& file, const Estimate& estimate, int pageIndex) {
+void CheckAgainst(std::initializer_list<const wchar_t*> files, const Recording& drawn,
+                  bool printMode) {
     const std::wregex choice(L"(\\w+)\\|(\\w+)");
-    for (const bool printMode : {false, true}) {
-        const Recording page = Page(estimate, pageIndex, printMode);
-        std::wstring content = FromUtf8(TestData(file));
-        std::erase(content, L'\r');  // a checkout on Windows may have put them in
-        std::wistringstream expected(content);
-        std::wstring line;
-        for (const std::wstring& drawn : page.lines) {
-            std::getline(expected, line);
-            CHECK(drawn == std::regex_replace(line, choice, printMode ? L"$2" : L"$1"));
+    std::size_t count = 0;
+    for (const wchar_t* const file : files) {
+        std::wistringstream expected(FromUtf8(TestData(file)));
+        for (std::wstring line; std::getline(expected, line); ++count) {
+            REQUIRE(count < drawn.lines.size());
+            CHECK(drawn.lines[count] ==
+                  std::regex_replace(line, choice, printMode ? L"$2" : L"$1"));
         }
-        CHECK_FALSE(std::getline(expected, line));
-        CHECK(page.tidy);
     }
+    CHECK(drawn.lines.size() == count);
+    CHECK(drawn.tidy);
 }
 
 }  // namespace
 
-TEST_CASE("The first page shows six lines and says that more follow") {
-    CheckAgainst(L"first-page.txt", FullEstimate(), 0);
+TEST_CASE("The first page shows six lines and says that more follow; the second shows the rest") {
+    for (const bool printMode : {false, true}) {
+        CheckAgainst({L"first-page.txt"}, Page(FullEstimate(), 0, printMode), printMode);
+        CheckAgainst({L"second-page.txt"}, Page(FullEstimate(), 1, printMode), printMode);
+    }
 }
 
-TEST_CASE("The second page shows the seventh line, separate services and notes") {
-    CheckAgainst(L"second-page.txt", FullEstimate(), 1);
+TEST_CASE("Pages are printed in grey between the margins, as many as the printer takes") {
+    static std::wstring told;
+    static int pagesTaken = 0;
+    const StandIn document(__imp_StartDocW, [](HDC, const DOCINFOW* started) {
+        told = started->lpszDocName;
+        return 1;
+    });
+    const StandIn page(__imp_StartPage, [](HDC) {
+        told += L", page";
+        return --pagesTaken < 0 ? 0 : 1;
+    });
+    const auto end = [](HDC) {
+        told += L" end";
+        return 1;
+    };
+    const StandIn pageEnd(__imp_EndPage, end);
+    const StandIn documentEnd(__imp_EndDoc, end);
+    // Paper of a size that stretches a page by whole numbers between the margins.
+    const StandIn paper(__imp_GetDeviceCaps, [](HDC, int index) {
+        return index == HORZRES ? 3546 : index == VERTRES ? 2270 : 0;
+    });
+    const auto print = [&](int pages) {
+        pagesTaken = pages;
+        std::wstring error;
+        return Recording([&](HDC dc) { CHECK(PrintDocument(dc, FullEstimate(), error)); },
+                         {141, 79, 3405, 2191, 4.0, 2.0});
+    };
+    CheckAgainst({L"first-page.txt", L"second-page.txt"}, print(9), true);
+    CHECK(told == L"Good Faith Estimate, page end, page end end");
+    CheckAgainst({L"first-page.txt"}, print(1), true);
+    CHECK(told == L"Good Faith Estimate, page end, page end");
 }
 
 TEST_CASE("Any page index above 0 is the second page") {
@@ -103,36 +135,7 @@ TEST_CASE("A second page is there for more lines, separate services or notes, wi
         estimate.ProviderNotes = row.notes;
         CHECK(PageCount(estimate) == row.pages);
         CHECK(Shows(Page(estimate, 1), row.information));
-    }
-}
-
-TEST_CASE("Six lines fill the first page without a remark") {
-    Estimate estimate = FullEstimate();
-    estimate.Lines.resize(6);
-    CHECK(Shows(Page(estimate, 0), L"text 50,739,245,14"));
-    CHECK_FALSE(Shows(Page(estimate, 0), L"text 50,776,"));
-}
-
-TEST_CASE("Rows are drawn from an index on, up to a number of them") {
-    struct Row {
-        int firstIndex;
-        int maxRows;
-        int end;
-        const wchar_t* firstItem;
-    };
-    const Row rows[] = {
-        {0, 2, 168, L"Room & board"}, {5, 6, 168, L"Item 6"}, {6, 1, 134, L"Item 7"},
-        {7, 6, 100, nullptr},         {9, 6, 100, nullptr},   {0, 0, 100, nullptr},
-    };
-    for (const Row& row : rows) {
-        int end = 0;
-        const Recording table([&](HDC dc) {
-            end = DrawItemRows(dc, kStretched, FullEstimate(), row.firstIndex, row.maxRows, 100,
-                               false);
-        });
-        CHECK(end == row.end);
-        CHECK(table.lines.empty() == (row.firstItem == nullptr));
-        if (!table.lines.empty()) CHECK(table.lines[2].ends_with(row.firstItem));
+        CHECK(Shows(Page(estimate, 0), L"text 50,776,") == (row.lines > 6));
     }
 }
 

@@ -10,6 +10,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -22,11 +23,11 @@ namespace tessaline {
 /// A page with an offset, stretched differently in x and y, by whole numbers.
 inline constexpr PageTransform kStretched{10, 20, 10 + 816 * 4, 20 + 1056 * 2, 4.0, 2.0};
 
-/// Everything that `draw(dc)` draws by `kStretched`.
+/// Everything that `draw(dc)` draws, told in the units of a transform with whole scales.
 class Recording {
   public:
     template <typename Draw>
-    explicit Recording(const Draw& draw) {
+    explicit Recording(const Draw& draw, const PageTransform& units = kStretched) : units_(units) {
         HDC dc = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
         const auto before = Selection(dc);
         draw(dc);
@@ -109,7 +110,7 @@ class Recording {
         fontHeight = font.lfHeight;
         const auto& [left, top, right, bottom] = text.rcl;
         std::wstring how = L"text " + Place(left, top, right - left, bottom - top) +
-                           std::to_wstring((-fontHeight * 72 + 96) / 192) +
+                           std::to_wstring(std::lround(-fontHeight * 0.75 / units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
         if (how == lastText_) {  // the next line of the same text
@@ -132,16 +133,19 @@ class Recording {
     }
 
     /// Pixels as page units; what is left over shows.
-    static std::wstring Units(LONG pixels, LONG scale) {
-        const LONG rest = pixels % scale;
-        return std::to_wstring(pixels / scale) + (rest == 0 ? L"" : L"+" + std::to_wstring(rest));
+    static std::wstring Units(LONG pixels, double scale) {
+        const LONG rest = pixels % static_cast<LONG>(scale);
+        return std::to_wstring(pixels / static_cast<LONG>(scale)) +
+               (rest == 0 ? L"" : L"+" + std::to_wstring(rest));
     }
 
-    static std::wstring Place(LONG left, LONG top, LONG width, LONG height) {
-        return Units(left - 10, 4) + L"," + Units(top - 20, 2) + L"," + Units(width, 4) + L"," +
-               Units(height, 2) + L" ";
+    [[nodiscard]] std::wstring Place(LONG left, LONG top, LONG width, LONG height) const {
+        const auto& [originX, originY, right, bottom, scaleX, scaleY] = units_;
+        return Units(left - originX, scaleX) + L"," + Units(top - originY, scaleY) + L"," +
+               Units(width, scaleX) + L"," + Units(height, scaleY) + L" ";
     }
 
+    PageTransform units_;
     int objects_ = 0;  // fonts, pens and brushes alive
     std::wstring lastText_;
 };

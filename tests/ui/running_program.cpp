@@ -57,6 +57,10 @@ HWND ModalWindow() {
 
 }  // namespace
 
+bool IsWaiting() {
+    return GetCursor() == LoadCursorW(nullptr, IDC_WAIT);
+}
+
 RunningProgram::RunningProgram(int dpi) {
     InitCommonControls();
     SetScreenDpi(dpi);
@@ -74,6 +78,8 @@ RunningProgram::RunningProgram(int dpi) {
 RunningProgram::~RunningProgram() {
     if (IsWindow(app.mainWindow)) DestroyWindow(app.mainWindow);
     Settle();
+    // Previews go with their owner.
+    CHECK(FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr) == nullptr);
     KillTimer(nullptr, timer_);
     PublishAppState(nullptr);
     for (const std::wstring& box : boxes_) CHECK(box == L"a box that came");
@@ -91,7 +97,10 @@ int RunningProgram::Settle() const {
 }
 
 void RunningProgram::LookAround() {
-    if (const HWND modal = ModalWindow()) IsBox(modal) ? AnswerBox(modal) : TakeStep(modal);
+    const HWND modal = ModalWindow();
+    if (modal == nullptr) return;
+    CHECK_FALSE(IsWaiting());
+    IsBox(modal) ? AnswerBox(modal) : TakeStep(modal);
 }
 
 void RunningProgram::AnswerBox(HWND box) {

@@ -14,6 +14,9 @@
 
 namespace tessaline {
 
+/// Whether the wait cursor shows.
+[[nodiscard]] bool IsWaiting();
+
 /// One at a time. Its end checks that every expected box and every step came.
 class RunningProgram {
   public:

@@ -15,8 +15,10 @@
 #include "platform/controls.h"
 #include "platform/scale.h"
 #include "store/catalogue.h"
+#include "tests/document/recorded_drawing.h"
 #include "tests/support/distinct_estimate.h"
 #include "tests/support/readable.h"
+#include "tests/support/stand_in.h"
 #include "tests/support/test_data.h"
 #include "tests/ui/running_program.h"
 #include "tests/ui/told_window.h"
@@ -26,11 +28,34 @@
 namespace tessaline {
 namespace {
 
+// What is different in Windows while a story is played, and what it notices.
+struct {
+    bool hasPrinter = false;
+    bool hasMemory = true;
+    std::wstring searches;
+    HDC paper = nullptr;
+} windows;
+
+// The printer that the user chooses refuses every job.
+BOOL WINAPI ChoosePrinter(LPPRINTDLGW dialog) {
+    CHECK(dialog->hwndOwner == App()->mainWindow);
+    if ((dialog->Flags & PD_RETURNDC) != 0) dialog->hDC = CreateCompatibleDC(nullptr);
+    return windows.hasPrinter;
+}
+
+HANDLE WINAPI SearchFolder(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+    windows.searches += IsWaiting() ? L"waiting " : L"unnoticed ";
+    if (!windows.hasMemory) throw std::bad_alloc();
+    return FindFirstFileExW(pattern, FindExInfoStandard, found, FindExSearchNameMatch, nullptr, 0);
+}
+
 struct Story {
-    explicit Story(int dpi) : program(dpi) {}
+    explicit Story(int dpi) : program(dpi) { windows = {}; }
 
     RunningProgram program;
     AppState& app = program.app;
+    StandIn<decltype(&PrintDlgW)> printDialog{__imp_PrintDlgW, ChoosePrinter};
+    StandIn<decltype(&FindFirstFileW)> search{__imp_FindFirstFileW, SearchFolder};
     std::vector<FileOwner> locks;
     Estimate bound;
     // The line that is played: in which window, its words after the verb, what the first of them
@@ -51,20 +76,30 @@ struct Story {
     }
 };
 
-// The control with that ID or text, or the part of the main window with that name.
+// The preview that is on top.
+HWND Preview() {
+    return FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr);
+}
+
+// The control with that ID or text, or the part of the main window with that name. The preview's
+// controls go by their texts.
 HWND Find(const Story& s, const std::wstring& name) {
     const AppState& app = s.app;
     const std::map<std::wstring, HWND> parts = {
         {L"form", app.canvasWindow},       {L"bar", app.barWindow},
         {L"container", app.scrollWindow},  {L"status", app.statusLine},
         {L"amount", app.totalAmount},      {L"total", GetParent(app.totalAmount)},
-        {L"first", app.sectionMessage[0]}, {L"last", app.sectionMessage[3]}};
+        {L"first", app.sectionMessage[0]}, {L"last", app.sectionMessage[3]},
+        {L"header", app.headerWindow},     {L"preview", Preview()},
+        {L"main", app.mainWindow}};
     const bool inMain = s.window == app.mainWindow;
     if (inMain && app.controlById.contains(s.number)) return app.controlById.at(s.number);
     if (s.number != 0) return GetDlgItem(inMain ? app.canvasWindow : s.window, s.number);
-    if (inMain) return parts.contains(name) ? parts.at(name) : s.window;
+    if ((inMain || name == L"preview") && parts.contains(name)) return parts.at(name);
+    const HWND around = inMain ? Preview() : s.window;
     for (const std::wstring& text : {s.words, name}) {
-        const HWND found = FindWindowExW(s.window, nullptr, nullptr, text.c_str());
+        const bool told = around != nullptr && !text.empty();
+        const HWND found = told ? FindWindowExW(around, nullptr, nullptr, text.c_str()) : nullptr;
         if (found != nullptr) return found;
     }
     return s.window;
@@ -121,6 +156,62 @@ void Size(Story& s) {
     SetWindowPos(s.app.mainWindow, nullptr, 0, 0, width, height, SWP_NOMOVE);
     CHECK(PlaceOf(s.app.mainWindow).right == std::max(width, Scale(1040)));
     CHECK(PlaceOf(s.app.mainWindow).bottom == std::max(height, Scale(650)));
+}
+
+// Drags the thumb of the scroll bar that far down, by the messages that the mouse causes.
+void DragThumb(Story& s) {
+    SCROLLBARINFO bar{};
+    bar.cbSize = sizeof(bar);
+    GetScrollBarInfo(s.target, OBJID_VSCROLL, &bar);
+    const POINT start{(bar.rcScrollBar.left + bar.rcScrollBar.right) / 2,
+                      bar.rcScrollBar.top + (bar.xyThumbTop + bar.xyThumbBottom) / 2};
+    POINT end{start.x, start.y + s.Value()};
+    ScreenToClient(s.target, &end);
+    PostMessageW(s.target, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(end.x, end.y));
+    PostMessageW(s.target, WM_LBUTTONUP, 0, MAKELPARAM(end.x, end.y));
+    s.Send(WM_NCLBUTTONDOWN, HTVSCROLL, MAKELPARAM(start.x, start.y));
+}
+
+// An estimate of so many lines, each $1.
+void BindLines(Story& s) {
+    Estimate estimate = s.app.currentEstimate;
+    for (int i = 1; i <= s.number; ++i) {
+        estimate.Lines.push_back({L"Item " + std::to_wstring(i), L"", L"", L"CPT", L"", 1, 1.0});
+    }
+    s.Bind(estimate);
+}
+
+// The page "1 of 2", say, is on the screen, known by the rule below its title.
+void CheckPage(Story& s) {
+    const HWND preview = Preview();
+    CHECK(WindowText(FindWindowExW(preview, nullptr, L"STATIC", nullptr)) == L"Page " + s.words);
+    UpdateWindow(preview);
+    GdiFlush();
+    RECT client{};
+    GetClientRect(preview, &client);
+    const PageRect rule = s.number == 1 ? PageRect{42, 117, 732, 4} : PageRect{42, 96, 732, 3};
+    const RECT place = MapRect(PreviewTransform(client.right, client.bottom), rule);
+    const WindowDeviceContext screen(preview);
+    CHECK(GetPixel(screen.Get(), (place.left + place.right) / 2, (place.top + place.bottom) / 2) ==
+          RGB(30, 139, 144));
+    CHECK(GetPixel(screen.Get(), 2, client.bottom - 2) == GetSysColor(COLOR_BTNFACE));
+}
+
+// All that a window draws.
+void CheckPainting(Story& s) {
+    const StandIn paint(__imp_BeginPaint,
+                        [](HWND, LPPAINTSTRUCT given) { return given->hdc = windows.paper; });
+    const double scale = ScreenDpi() / 96.0;
+    const Recording painted(
+        [&](HDC dc) {
+            windows.paper = dc;
+            s.Send(WM_ERASEBKGND, reinterpret_cast<LONG_PTR>(dc));
+            s.Send(WM_PAINT);
+        },
+        {0, 0, 0, 0, scale, scale});
+    const std::vector<std::wstring> wanted = SectionLines(s.words);
+    for (std::size_t i = 0; i < wanted.size(); ++i) CHECK(painted.lines.at(i) == wanted[i]);
+    CHECK(painted.lines.size() == wanted.size());
 }
 
 void CheckState(Story& s) {
@@ -196,7 +287,9 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"select", [](Story& s) {
         ListView_SetItemState(s.target, s.Value(), LVIS_SELECTED, LVIS_SELECTED); }},
     {L"key", [](Story& s) { PostMessageW(GetFocus(), WM_KEYDOWN, s.Word(), 0); }},
-    {L"close", [](Story& s) { SendMessageW(s.window, WM_CLOSE, 0, 0); }},
+    {L"close", [](Story& s) { s.Send(WM_CLOSE); }},
+    {L"activate", [](Story& s) { SetActiveWindow(s.target); }},
+    {L"drag", DragThumb},
     {L"scroll", [](Story& s) { s.Send(WM_VSCROLL, s.Value()); }},
     {L"wheel", [](Story& s) { s.Send(WM_MOUSEWHEEL, s.Value() * 65536LL); }},
     // What comes about.
@@ -206,7 +299,12 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
         CHECK(s.program.Settle() == -1); }},
     {L"settle", [](Story& s) { CHECK(s.program.Settle() == (s.words.empty() ? -1 : s.number)); }},
     {L"quit", [](Story& s) { PostQuitMessage(s.number); }},
-    {L"open", Open}, {L"put", Put}, {L"distinct", BindDistinct},
+    {L"open", Open}, {L"put", Put}, {L"distinct", BindDistinct}, {L"lines", BindLines},
+    {L"printer", [](Story&) { windows.hasPrinter = true; }},
+    {L"memory", [](Story& s) { windows.hasMemory = s.words == L"enough"; }},
+    {L"stretch", [](Story& s) {
+        SetWindowPos(s.target, nullptr, 0, 0, s.Value(), s.Value() / 2, SWP_NOZORDER);
+        CHECK(UpdateWindow(s.target)); }},
     {L"blank", [](Story& s) { s.Bind(Estimate()); }},
     {L"reread", [](Story& s) { ReadForm(); s.Bind(s.app.currentEstimate); }},
     {L"forget", [](Story& s) { s.app.CurrentFilePath.clear(); }},
@@ -218,7 +316,14 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"lock", [](Story& s) { s.locks.push_back(s.program.store.Lock(s.words)); }},
     // What is to be seen.
     {L"state", CheckState}, {L"files", CheckFiles}, {L"marks", CheckMarks},
-    {L"canvas", CheckCanvas}, {L"colours", CheckColours},
+    {L"canvas", CheckCanvas}, {L"colours", CheckColours}, {L"page", CheckPage},
+    {L"paints", CheckPainting},
+    {L"searched", [](Story& s) {
+        CHECK(std::exchange(windows.searches, {}) == s.words + L" "); }},
+    {L"measures", [](Story& s) {
+        const RECT place = PlaceOf(s.target);
+        CHECK(std::to_wstring(Unscale(place.right)) + L" " +
+              std::to_wstring(Unscale(place.bottom)) == s.text); }},
     {L"untouched", [](Story& s) {
         const Bytes content = ReadFileBytes(s.program.store.Path(s.words));
         CHECK(content == TestData(L"legacy-estimate.gfe")); }},

@@ -32,7 +32,10 @@ constexpr struct { std::wstring_view kind, className; DWORD style, extended; } k
     {L"scroll", L"NORVAK_GFE_NATIVE_SCROLL", kChild | WS_CLIPCHILDREN | WS_VSCROLL, 0},
     {L"item", L"GFE_LineDialog", kPopup, kModal}, {L"separate", L"GFE_SepDialog", kPopup, kModal},
     {L"lookup", L"GFE_Lookup", kPopup | WS_THICKFRAME, kModal},
-    {L"about", L"GFE_About", kPopup | WS_CLIPCHILDREN, kModal}};
+    {L"about", L"GFE_About", kPopup | WS_CLIPCHILDREN, kModal},
+    {L"preview", L"GFE_Native_Preview", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPSIBLINGS,
+     WS_EX_APPWINDOW | WS_EX_WINDOWEDGE},
+    {L"turn", L"Button", kChild, 0}, {L"page", L"Static", kChild | SS_CENTER, 0}};
 constexpr struct { std::wstring_view name; int points, weight; } kFonts[] = {
     {L"ui", 9, 400}, {L"label", 8, 400}, {L"small", 7, 400}, {L"bold", 9, 600},
     {L"title", 20, 600}, {L"section", 12, 600}, {L"total", 17, 600}, {L"none", 0, 0}};
@@ -123,14 +126,23 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
-void CheckWindow(HWND window, const std::wstring& section, int dpi) {
+std::vector<std::wstring> SectionLines(const std::wstring& section) {
     std::wistringstream file(FromUtf8(TestData(L"ui/windows.txt")));
+    std::vector<std::wstring> lines;
     std::wstring line;
     while (line != L"[" + section + L"]" && std::getline(file, line)) {
     }
-    HWND next = GetWindow(window, GW_OWNER) ? window : GetWindow(window, GW_CHILD);
     while (std::getline(file, line) && !line.empty()) {
-        CHECK(Told(next, dpi) == std::regex_replace(line, std::wregex(L" +"), L" "));
+        lines.push_back(std::regex_replace(line, std::wregex(L" +"), L" "));
+    }
+    CHECK_FALSE(lines.empty());
+    return lines;
+}
+
+void CheckWindow(HWND window, const std::wstring& section, int dpi) {
+    HWND next = GetWindow(window, GW_OWNER) ? window : GetWindow(window, GW_CHILD);
+    for (const std::wstring& line : SectionLines(section)) {
+        CHECK(Told(next, dpi) == line);
         next = GetWindow(next, next == window ? GW_CHILD : GW_HWNDNEXT);
     }
     CHECK(next == nullptr);

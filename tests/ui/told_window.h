@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace tessaline {
 
@@ -13,8 +14,11 @@ namespace tessaline {
 /// from where it is in the middle of its owner.
 [[nodiscard]] RECT PlaceOf(HWND window);
 
+/// The lines of a section of tests/data/ui/windows.txt, single blanks between the words.
+[[nodiscard]] std::vector<std::wstring> SectionLines(const std::wstring& section);
+
 /// Checks a window, if it is a dialog, and every child that it has, in the order of creation,
-/// against a section of tests/data/ui/windows.txt.
+/// against such a section.
 void CheckWindow(HWND window, const std::wstring& section, int dpi = 96);
 
 /// The texts of a list, joined by bars, with a semicolon after each row.
