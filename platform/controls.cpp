@@ -27,7 +27,7 @@ HWND MakeControl(HWND parent, int id, const Box& box, const ControlParts& parts)
         parts.extendedStyle, parts.className, parts.text, WS_CHILD | WS_VISIBLE | parts.style,
         Scale(box.x), Scale(box.y), Scale(box.width), Scale(box.height), parent,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ProgramInstance(), nullptr);
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(parts.font), TRUE);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(parts.font), FALSE);
     return control;
 }
 

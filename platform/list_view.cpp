@@ -30,7 +30,7 @@ HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColum
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ProgramInstance(), nullptr);
     const LPARAM extended = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
     SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, extended);
-    SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(CurrentTheme().uiFont.Get()), TRUE);
+    SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(CurrentTheme().uiFont.Get()), FALSE);
     for (std::size_t index = 0; index < columns.size(); ++index) {
         AddColumn(list, static_cast<int>(index), columns[index]);
     }

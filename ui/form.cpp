@@ -14,7 +14,7 @@ void BuildSectionBox(HWND canvas, const SectionRow& section) {
     const HWND frame = CreateWindowExW(
         0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, Scale(10), Scale(section.top),
         Scale(910), Scale(section.height), canvas, nullptr, ProgramInstance(), nullptr);
-    SendMessageW(frame, WM_SETFONT, reinterpret_cast<WPARAM>(theme.uiFont.Get()), TRUE);
+    SendMessageW(frame, WM_SETFONT, reinterpret_cast<WPARAM>(theme.uiFont.Get()), FALSE);
     MakeLabel(canvas, section.title, {28, section.top + 12, 520, 24}, theme.sectionFont.Get());
     MakeLabel(canvas, section.subtitle, {28, section.top + 35, 740, 18}, theme.labelFont.Get());
 }
