@@ -17,24 +17,19 @@ bool IsAscii(ByteView utf8) {
 
 }  // namespace
 
-std::size_t Utf8Room(std::wstring_view text) {
-    std::size_t room = text.size();
-    for (const wchar_t unit : text) {
-        room += static_cast<std::size_t>(unit >= 0x80) + static_cast<std::size_t>(unit >= 0x800);
-    }
-    return room;
-}
-
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
     const std::size_t start = bytes.size();
-    const std::size_t room = Utf8Room(text);
+    bytes.resize(start + text.size());
+    unsigned seen = 0;
+    std::transform(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(start),
+                   [&seen](wchar_t unit) {
+                       seen |= unit;
+                       return static_cast<std::uint8_t>(unit);
+                   });
+    if (seen < 0x80) return;
+    // No unit of UTF-16 gives more than three bytes.
+    const std::size_t room = 3 * text.size();
     bytes.resize(start + room);
-    if (room == text.size()) {
-        std::transform(text.begin(), text.end(),
-                       bytes.begin() + static_cast<std::ptrdiff_t>(start),
-                       [](wchar_t unit) { return static_cast<std::uint8_t>(unit); });
-        return;
-    }
     char* target = reinterpret_cast<char*>(bytes.data() + start);
     const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
                                          target, static_cast<int>(room), nullptr, nullptr);

@@ -11,9 +11,6 @@
 
 namespace tessaline {
 
-/// How many bytes the UTF-8 form of `text` takes at most; for ASCII, exactly.
-[[nodiscard]] std::size_t Utf8Room(std::wstring_view text);
-
 /// Appends the UTF-8 form of `text` to `bytes`, without a terminator.
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text);
 

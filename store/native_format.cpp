@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <vector>
@@ -14,6 +15,8 @@
 namespace tessaline {
 namespace {
 
+// Numbers lie in the payload as they lie in memory.
+static_assert(std::endian::native == std::endian::little);
 static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
 
 constexpr std::array<std::uint8_t, 4> kMagic = {'G', 'F', 'E', 'D'};
@@ -31,17 +34,17 @@ class Writer {
   public:
     explicit Writer(SecretBytes& bytes) : bytes_(bytes) {}
 
-    void Put(std::uint32_t number) { PutLittleEndian(number); }
-    void Put(std::int32_t number) { PutLittleEndian(static_cast<std::uint32_t>(number)); }
-    void Put(std::int64_t number) { PutLittleEndian(static_cast<std::uint64_t>(number)); }
-    void Put(double number) { PutLittleEndian(std::bit_cast<std::uint64_t>(number)); }
+    void Put(std::uint32_t number) { PutNumber(number); }
+    void Put(std::int32_t number) { PutNumber(number); }
+    void Put(std::int64_t number) { PutNumber(number); }
+    void Put(double number) { PutNumber(number); }
     void Put(bool flag) { bytes_.push_back(flag ? 1 : 0); }
 
     void Put(const std::wstring& text) {
         const std::size_t start = bytes_.size();
         Put(std::uint32_t{0});
         AppendUtf8(bytes_, text);
-        StoreLittleEndian(start, static_cast<std::uint32_t>(bytes_.size() - start - 4));
+        StoreNumber(start, static_cast<std::uint32_t>(bytes_.size() - start - 4));
     }
 
     template <typename Element>
@@ -56,18 +59,16 @@ class Writer {
     }
 
   private:
-    template <typename Unsigned>
-    void PutLittleEndian(Unsigned number) {
+    template <typename Number>
+    void PutNumber(Number number) {
         const std::size_t at = bytes_.size();
-        bytes_.resize(at + sizeof(Unsigned));
-        StoreLittleEndian(at, number);
+        bytes_.resize(at + sizeof(Number));
+        StoreNumber(at, number);
     }
 
-    template <typename Unsigned>
-    void StoreLittleEndian(std::size_t at, Unsigned number) {
-        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            bytes_[at + i] = static_cast<std::uint8_t>(number >> (8 * i));
-        }
+    template <typename Number>
+    void StoreNumber(std::size_t at, Number number) {
+        std::memcpy(bytes_.data() + at, &number, sizeof(Number));
     }
 
     SecretBytes& bytes_;
@@ -86,9 +87,9 @@ class Reader {
         return damaged_ ? L"The estimate file is incomplete or damaged." : nullptr;
     }
 
-    void Take(std::int32_t& number) { number = static_cast<std::int32_t>(Take<std::uint32_t>()); }
-    void Take(std::int64_t& number) { number = static_cast<std::int64_t>(Take<std::uint64_t>()); }
-    void Take(double& number) { number = std::bit_cast<double>(Take<std::uint64_t>()); }
+    void Take(std::int32_t& number) { number = Take<std::int32_t>(); }
+    void Take(std::int64_t& number) { number = Take<std::int64_t>(); }
+    void Take(double& number) { number = Take<double>(); }
     void Take(bool& flag) { flag = Take<std::uint8_t>() != 0; }
 
     void Take(std::wstring& text) {
@@ -111,18 +112,15 @@ class Reader {
         });
     }
 
-    /// The next unsigned number; 0 where too little is left.
-    template <typename Unsigned>
-    [[nodiscard]] Unsigned Take() {
-        if (rest_.size() < sizeof(Unsigned)) {
+    /// The next number; 0 where too little is left.
+    template <typename Number>
+    [[nodiscard]] Number Take() {
+        Number number = 0;
+        if (rest_.size() < sizeof(Number)) {
             damaged_ = true;
-            return 0;
+            return number;
         }
-        const ByteView bytes = TakeBytes(sizeof(Unsigned));
-        Unsigned number = 0;
-        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            number = static_cast<Unsigned>(number | Unsigned{bytes[i]} << (8 * i));
-        }
+        std::memcpy(&number, TakeBytes(sizeof(Number)).data(), sizeof(Number));
         return number;
     }
 
@@ -150,12 +148,12 @@ class Reader {
     const wchar_t* badCount_ = nullptr;
 };
 
-// The bytes that a value takes, or a few more: with this much reserved the payload is not moved,
-// and wiped, while it is written.
+// The bytes that a value takes where its texts are ASCII: with this much reserved a usual payload
+// is not moved, and wiped, while it is written.
 template <typename Value>
 std::size_t RoomFor(const Value& value) {
     if constexpr (std::is_same_v<Value, std::wstring>) {
-        return sizeof(std::uint32_t) + Utf8Room(value);
+        return sizeof(std::uint32_t) + value.size();
     } else if constexpr (std::is_arithmetic_v<Value>) {
         return sizeof(Value);
     } else if constexpr (HasFields<Value>) {

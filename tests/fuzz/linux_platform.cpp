@@ -21,10 +21,6 @@ void WipeMemory(void* memory, std::size_t size) noexcept {
     if (memory != nullptr) std::memset(memory, 0, size);
 }
 
-std::size_t Utf8Room(std::wstring_view text) {
-    return text.size() * 3;
-}
-
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
     const wchar_t* from = text.data();
     const wchar_t* const end = from + text.size();
