@@ -18,6 +18,4 @@ struct BareWindow {
     LOGFONTW font;
 };
 
-inline constexpr int kMostBareWindows = 500;
-
 }  // namespace tessaline::bench

@@ -8,40 +8,26 @@
 
 namespace {
 
-using tessaline::bench::BareWindow;
-using tessaline::bench::kMostBareWindows;
-
-BareWindow description[kMostBareWindows];
-HWND windows[kMostBareWindows];
-HFONT fonts[kMostBareWindows];
-
-int ReadDescriptions(const wchar_t* path) {
-    const HANDLE file =
-        CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    DWORD size = 0;
-    if (!ReadFile(file, description, sizeof(description), &size, nullptr)) return 0;
-    CloseHandle(file);
-    return static_cast<int>(size / sizeof(BareWindow));
-}
+constexpr int kMost = 500;
+tessaline::bench::BareWindow rows[kMost];
+HWND windows[kMost];
+HFONT fonts[kMost];
 
 void MakeWindow(int index) {
-    const BareWindow& row = description[index];
+    const auto& row = rows[index];
     const HWND parent = row.parent < 0 ? nullptr : windows[row.parent];
     windows[index] = CreateWindowExW(row.extendedStyle, row.className, row.text, row.style,
                                      row.box.left, row.box.top, row.box.right, row.box.bottom,
                                      parent, nullptr, GetModuleHandleW(nullptr), nullptr);
     if (row.fontOf < 0) return;
     if (row.fontOf == index) fonts[index] = CreateFontIndirectW(&row.font);
-    const auto font = reinterpret_cast<WPARAM>(fonts[row.fontOf]);
-    SendMessageW(windows[index], WM_SETFONT, font, FALSE);
+    SendMessageW(windows[index], WM_SETFONT, reinterpret_cast<WPARAM>(fonts[row.fontOf]), FALSE);
 }
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int showState) {
-    const INITCOMMONCONTROLSEX controls{sizeof(controls),
-                                        ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES};
-    InitCommonControlsEx(&controls);
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR path, int showState) {
+    InitCommonControls();
     WNDCLASSW bare{};
     bare.lpfnWndProc = DefWindowProcW;
     bare.hInstance = instance;
@@ -49,8 +35,13 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int showSt
     bare.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     bare.lpszClassName = L"BARE";
     RegisterClassW(&bare);
-    const int count = ReadDescriptions(commandLine);
-    for (int index = 0; index < count; ++index) MakeWindow(index);
+    const HANDLE file =
+        CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    DWORD size = 0;
+    if (!ReadFile(file, rows, sizeof(rows), &size, nullptr)) return 1;
+    for (int index = 0; index < static_cast<int>(size / sizeof(rows[0])); ++index) {
+        MakeWindow(index);
+    }
     ShowWindow(windows[0], showState);
     UpdateWindow(windows[0]);
     MSG message{};

@@ -1,48 +1,13 @@
-// bench SCRATCH-FOLDER PROGRAM-FOLDER JSON-FILE: prints a table of what the program costs, and
-// writes the same as a list of objects in JSON.
+// bench GROUP FOLDER: measures one group; one line of fields between tabs for each measure.
 #include "tests/bench/bench.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 
 namespace tessaline::bench {
-namespace {
 
-std::string Text(std::optional<double> number, const char* format, const char* none) {
-    char text[32];
-    std::snprintf(text, sizeof(text), format, number.value_or(0));
-    return number ? text : none;
-}
-
-void PrintTable(const Measures& measures) {
-    std::printf("%-36s %10s %10s %4s %7s %6s\n", "measure", "ours", "floor", "unit", "value",
-                "aim");
-    for (const Measure& row : measures) {
-        std::printf("%-36s %10.2f %10s %4s %7.3f %6s%s\n", row.name.c_str(), row.ours,
-                    Text(row.floor, "%.2f", "-").c_str(), row.unit, row.value,
-                    Text(row.aim, "%.2f", "-").c_str(),
-                    row.aim && row.value > *row.aim ? "  missed" : "");
-    }
-}
-
-void WriteJson(const Measures& measures, std::ofstream file) {
-    const char* separator = "[\n";
-    for (const Measure& row : measures) {
-        file << separator << R"(  {"name": ")" << row.name << R"(", "ours": )" << row.ours
-             << R"(, "floor": )" << Text(row.floor, "%g", "null") << R"(, "unit": ")" << row.unit
-             << R"(", "value": )" << row.value << R"(, "aim": )" << Text(row.aim, "%g", "null")
-             << "}";
-        separator = ",\n";
-    }
-    file << "\n]\n";
-}
-
-}  // namespace
-
-double Milliseconds(const std::function<void()>& work) {
+double Milliseconds(const Work& work) {
     const auto start = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
@@ -51,7 +16,6 @@ double Milliseconds(const std::function<void()>& work) {
 
 std::vector<double> Race(int rounds, const std::vector<std::function<double()>>& runners) {
     std::vector<std::vector<double>> results(runners.size());
-    for (const auto& runner : runners) runner();
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t i = 0; i < runners.size(); ++i) {
             // Whoever comes later finds warmer caches, so every other round goes backwards.
@@ -67,13 +31,12 @@ std::vector<double> Race(int rounds, const std::vector<std::function<double()>>&
     return medians;
 }
 
-Measure Ratio(const char* name, double ours, double floor, double aim) {
-    return {name, ours, floor, "ms", ours / floor, aim};
+void Report(const char* name, double ours, double floor, double aim, const char* unit) {
+    std::printf("%s\t%.4g\t%.4g\t%s\t%.3f\t%g\n", name, ours, floor, unit, ours / floor, aim);
 }
 
-Measure Compare(const char* name, int repeats, double aim, const std::function<void()>& ours,
-                const std::function<void()>& floor) {
-    const auto repeated = [repeats](const std::function<void()>& work) {
+void Compare(const char* name, int repeats, double aim, const Work& ours, const Work& floor) {
+    const auto repeated = [repeats](const Work& work) {
         return [repeats, &work] {
             return Milliseconds([&] {
                        for (int i = 0; i < repeats; ++i) work();
@@ -81,19 +44,25 @@ Measure Compare(const char* name, int repeats, double aim, const std::function<v
                    repeats;
         };
     };
-    const std::vector<double> times = Race(9, {repeated(ours), repeated(floor)});
-    return Ratio(name, times[0], times[1], aim);
+    const std::vector<double> times = Race(11, {repeated(ours), repeated(floor)});
+    Report(name, times[0], times[1], aim);
 }
 
 }  // namespace tessaline::bench
 
 int wmain(int count, wchar_t** arguments) {
     using namespace tessaline::bench;
-    if (count != 4) return 2;
-    Measures measures;
-    AddStoreMeasures(measures, arguments[1]);
-    AddScreenMeasures(measures, arguments[2]);
-    PrintTable(measures);
-    WriteJson(measures, std::ofstream(std::filesystem::path(arguments[3])));
-    return 0;
+    const struct {
+        const wchar_t* name;
+        void (*measure)(const std::wstring& folder);
+    } groups[] = {{L"memory", MeasureMemory},       {L"catalogue", MeasureCatalogue},
+                  {L"payload", MeasurePayload},     {L"older", MeasureOlderFile},
+                  {L"keystroke", MeasureKeystroke}, {L"pages", MeasurePages},
+                  {L"start", MeasureStart}};
+    for (const auto& group : groups) {
+        if (count != 3 || std::wstring(arguments[1]) != group.name) continue;
+        group.measure(arguments[2]);
+        return 0;
+    }
+    return 2;
 }

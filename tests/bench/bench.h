@@ -2,42 +2,42 @@
 // result. All run in turns, so that what else the machine does falls on all alike.
 #pragma once
 
+#include <cstdlib>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tessaline::bench {
 
-/// One row of the table.
-struct Measure {
-    std::string name;
-    double ours;
-    std::optional<double> floor;
-    const char* unit;
-    double value;               ///< what the aim is about: the ratio, or the figure itself
-    std::optional<double> aim;  ///< at most; none where the figure is only reported
-};
-using Measures = std::vector<Measure>;
+/// A piece of work.
+using Work = std::function<void()>;
 
 /// Milliseconds that `work` takes.
-[[nodiscard]] double Milliseconds(const std::function<void()>& work);
+[[nodiscard]] double Milliseconds(const Work& work);
 
-/// Lets all run once unmeasured, then in turns. The median of each one's results.
+/// Lets all run in turns, and gives the median of each one's results.
 [[nodiscard]] std::vector<double> Race(int rounds,
                                        const std::vector<std::function<double()>>& runners);
 
-/// A row about the ratio of two times in milliseconds.
-[[nodiscard]] Measure Ratio(const char* name, double ours, double floor, double aim);
+/// Prints a row of the table; its value is how many times the floor we take, which is to be `aim`
+/// at most.
+void Report(const char* name, double ours, double floor, double aim, const char* unit = "ms");
 
-/// A row about two pieces of work, each done `repeats` times in every round.
-[[nodiscard]] Measure Compare(const char* name, int repeats, double aim,
-                              const std::function<void()>& ours,
-                              const std::function<void()>& floor);
+/// Races two pieces of work, each done `repeats` times in every round, and reports them.
+void Compare(const char* name, int repeats, double aim, const Work& ours, const Work& floor);
 
-/// `folder` is made and filled with files.
-void AddStoreMeasures(Measures& measures, const std::wstring& folder);
-/// `folder` is where the programs are.
-void AddScreenMeasures(Measures& measures, const std::wstring& folder);
+/// A floor that does not do its work measures nothing.
+inline void Demand(bool done) {
+    if (!done) std::abort();
+}
+
+/// The groups of measures. `folder` is for files that the groups share; it may not be there yet.
+void MeasureMemory(const std::wstring& folder);
+void MeasureCatalogue(const std::wstring& folder);
+void MeasurePayload(const std::wstring& folder);
+void MeasureOlderFile(const std::wstring& folder);
+void MeasureKeystroke(const std::wstring& folder);
+void MeasurePages(const std::wstring& folder);
+void MeasureStart(const std::wstring& folder);
 
 }  // namespace tessaline::bench

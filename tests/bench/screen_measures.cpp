@@ -4,8 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
+#include <array>
 
 #include "document/estimate_pages.h"
 #include "platform/controls.h"
@@ -18,6 +17,7 @@
 #include "ui/app_state.h"
 #include "ui/main_window.h"
 #include "ui/sample_estimate.h"
+#include "ui/window_names.h"
 
 namespace tessaline::bench {
 namespace {
@@ -54,27 +54,20 @@ void BareFill(HWND list, const std::vector<const LookupRow*>& rows) {
     InvalidateRect(list, nullptr, TRUE);
 }
 
-void AddKeystrokes(Measures& measures) {
-    const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
-                                        820, 525, nullptr, nullptr, nullptr, nullptr);
-    const LookupState state = ManyEstimates(window);
-    std::vector<const LookupRow*> all;
-    for (const LookupRow& row : state.rows) all.push_back(&row);
-    std::vector<const LookupRow*> few;
-    for (std::size_t index = 0; index < all.size(); index += 1000) few.push_back(all[index]);
-    const auto add = [&](const char* name, const wchar_t* search, int repeats, const auto& rows) {
-        SetWindowTextW(state.searchBox, search);
-        measures.push_back(Compare(
-            name, repeats, 1.10, [&] { FillLookupList(state); },
-            [&] { BareFill(state.list, rows); }));
-        if (ListView_GetItemCount(state.list) != int(rows.size())) std::abort();
-    };
-    add("a keystroke, 10,000 rows shown", L"", 1, all);
-    add("a keystroke, 10 of 10,000 rows shown", L"seldom", 20, few);
-    DestroyWindow(window);
+void MeasureSearch(const LookupState& state, const char* name, const wchar_t* search,
+                   std::size_t each) {
+    std::vector<const LookupRow*> rows;
+    for (std::size_t index = 0; index < state.rows.size(); index += each) {
+        rows.push_back(&state.rows[index]);
+    }
+    SetWindowTextW(state.searchBox, search);
+    Compare(
+        name, static_cast<int>(std::min<std::size_t>(each, 20)), 1.10,
+        [&] { FillLookupList(state); }, [&] { BareFill(state.list, rows); });
+    Demand(ListView_GetItemCount(state.list) == static_cast<int>(rows.size()));
 }
 
-void AddPages(Measures& measures, const char* name, int width, int height, bool print) {
+void MeasureDrawing(const char* name, int width, int height, bool print) {
     const Estimate estimate = SampleEstimate();
     const auto draw = [&](HDC dc) {
         DrawFirstPage(dc, StretchPageOver({0, 0, width, height}), estimate, print);
@@ -93,39 +86,51 @@ void AddPages(Measures& measures, const char* name, int width, int height, bool 
     // Played into the rectangle that it fills, nothing is scaled.
     const RECTL& bounds = header.rclBounds;
     const RECT place{bounds.left, bounds.top, bounds.right, bounds.bottom};
-    measures.push_back(Compare(
+    Compare(
         name, 20, 1.10, [&] { draw(memory.Get()); },
         [&] {
             PlayEnhMetaFile(memory.Get(), recorded, &place);
             GdiFlush();
-        }));
+        });
     DeleteEnhMetaFile(recorded);
 }
 
-BareWindow Describe(HWND window, const std::vector<HWND>& earlier) {
-    BareWindow row{};
+std::wstring ClassOf(HWND window) {
+    wchar_t name[32];
+    GetClassNameW(window, name, 32);
+    return name;
+}
+
+// The windows below one, parents first, without the header that a list view makes itself.
+void CollectWindows(HWND window, std::vector<HWND>& all) {
+    if (ClassOf(window) == WC_HEADERW) return;
+    all.push_back(window);
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        CollectWindows(child, all);
+    }
+}
+
+BareWindow Describe(HWND window, const std::vector<HWND>& all) {
     const auto indexOf = [&](auto same) {
-        const auto found = std::find_if(earlier.begin(), earlier.end(), same);
-        return found == earlier.end() ? -1 : int(found - earlier.begin());
+        const auto found = std::find_if(all.begin(), all.end(), same);
+        return found == all.end() ? -1 : static_cast<int>(found - all.begin());
     };
-    GetClassNameW(window, row.className, 32);
-    if (std::wstring(row.className).starts_with(L"GFE_")) wcscpy(row.className, L"BARE");
+    BareWindow row{};
+    const std::wstring name = ClassOf(window);
+    wcscpy(row.className, name.starts_with(L"NORVAK") ? L"BARE" : name.c_str());
     GetWindowTextW(window, row.text, 128);
-    row.style = DWORD(GetWindowLongW(window, GWL_STYLE));
-    row.extendedStyle = DWORD(GetWindowLongW(window, GWL_EXSTYLE));
-    row.parent = indexOf([&](HWND other) { return other == GetAncestor(window, GA_PARENT); });
+    row.style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
+    row.extendedStyle = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
+    const HWND parent = GetAncestor(window, GA_PARENT);
+    row.parent = indexOf([&](HWND other) { return other == parent; });
     GetWindowRect(window, &row.box);
     row.box.right -= row.box.left;
     row.box.bottom -= row.box.top;
-    MapWindowPoints(nullptr, GetAncestor(window, GA_PARENT), reinterpret_cast<POINT*>(&row.box),
-                    1);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&row.box), 1);
     const LRESULT font = SendMessageW(window, WM_GETFONT, 0, 0);
-    row.fontOf =
-        indexOf([&](HWND other) { return SendMessageW(other, WM_GETFONT, 0, 0) == font; });
-    if (font == 0)
-        row.fontOf = -1;
-    else if (row.fontOf < 0)
-        row.fontOf = int(earlier.size());
+    row.fontOf = font == 0 ? -1 : indexOf([&](HWND other) {
+        return SendMessageW(other, WM_GETFONT, 0, 0) == font;
+    });
     GetObjectW(reinterpret_cast<HFONT>(font), sizeof(row.font), &row.font);
     return row;
 }
@@ -136,42 +141,31 @@ void DescribeForm(const std::wstring& path) {
     app.store = LocalStoreBelow(path);
     PublishAppState(&app);
     const HWND main = CreateMainWindow();
-    std::vector<HWND> windows = {main};
-    EnumChildWindows(
-        main,
-        [](HWND child, LPARAM list) -> BOOL {
-            // A list view makes its header itself.
-            wchar_t name[32];
-            GetClassNameW(child, name, 32);
-            if (name != std::wstring(WC_HEADERW)) {
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    std::vector<HWND> windows;
+    CollectWindows(main, windows);
     std::vector<BareWindow> rows;
-    std::vector<HWND> earlier;
-    for (const HWND window : windows) {
-        rows.push_back(Describe(window, earlier));
-        earlier.push_back(window);
-    }
+    for (const HWND window : windows) rows.push_back(Describe(window, windows));
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(rows.data());
-    if (!WriteFileBytes(path, {bytes, rows.size() * sizeof(BareWindow)})) std::abort();
+    Demand(rows.size() > 100 && WriteFileBytes(path, {bytes, rows.size() * sizeof(BareWindow)}));
     DestroyWindow(main);
     PublishAppState(nullptr);
 }
 
-// Milliseconds until a program has painted its window: it then waits for input.
-double StartTime(std::wstring commandLine) {
+// Milliseconds until a program has painted its window. It answers when it asks for messages, which
+// it does after painting.
+double StartTime(std::wstring commandLine, const wchar_t* windowClass) {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
     const double time = Milliseconds([&] {
-        if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                            nullptr, &startup, &process)) {
-            std::abort();
+        Demand(CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                              nullptr, &startup, &process));
+        HWND window = nullptr;
+        while (!IsWindowVisible(window)) {
+            Sleep(1);
+            window = FindWindowW(windowClass, nullptr);
         }
-        WaitForInputIdle(process.hProcess, 10'000);
+        SendMessageW(window, WM_NULL, 0, 0);
     });
     TerminateProcess(process.hProcess, 0);
     const FileOwner running(process.hProcess);
@@ -180,29 +174,40 @@ double StartTime(std::wstring commandLine) {
     return time;
 }
 
-void AddStart(Measures& measures, const std::wstring& folder) {
-    DescribeForm(folder + L"\\bare_windows.bin");
-    const std::vector<double> times =
-        Race(15, {[&] { return StartTime(folder + L"\\Tessaline.exe"); },
-                  [&] {
-                      return StartTime(folder + L"\\bare_windows.exe " + folder +
-                                       L"\\bare_windows.bin");
-                  }});
-    measures.push_back(Ratio("start to a painted form", times[0], times[1], 1.15));
+// The folder of this program, where the others are built too.
+std::wstring ProgramFolder() {
+    std::array<wchar_t, MAX_PATH> path{};
+    GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
+    const std::wstring_view own = path.data();
+    return std::wstring(own.substr(0, own.find_last_of(L'\\') + 1));
 }
 
 }  // namespace
 
-void AddScreenMeasures(Measures& measures, const std::wstring& folder) {
+void MeasureKeystroke(const std::wstring&) {
     CreateTheme();
-    AddKeystrokes(measures);
-    AddPages(measures, "both pages at preview size", 685, 886, false);
-    AddPages(measures, "both pages at 600 dpi", 4692, 6138, true);
-    AddStart(measures, folder);
-    const double size =
-        double(std::filesystem::file_size(folder + L"\\Tessaline.exe")) / (1024 * 1024);
-    measures.push_back({"size of Tessaline.exe", size, {}, "MB", size, 1.5});
-    ReleaseTheme();
+    const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                        820, 525, nullptr, nullptr, nullptr, nullptr);
+    const LookupState state = ManyEstimates(window);
+    MeasureSearch(state, "a keystroke, 10,000 rows shown", L"", 1);
+    MeasureSearch(state, "a keystroke, 10 of 10,000 rows shown", L"seldom", 1000);
+    DestroyWindow(window);
+}
+
+void MeasurePages(const std::wstring&) {
+    MeasureDrawing("both pages at preview size", 685, 886, false);
+    MeasureDrawing("both pages at 600 dpi", 4692, 6138, true);
+}
+
+void MeasureStart(const std::wstring& folder) {
+    CreateTheme();
+    const std::wstring form = folder + L"\\form.bin";
+    DescribeForm(form);
+    const std::wstring ours = ProgramFolder() + L"Tessaline.exe";
+    const std::wstring bare = ProgramFolder() + L"bare_windows.exe " + form;
+    const std::vector<double> times = Race(15, {[&] { return StartTime(ours, kMainClass); },
+                                                [&] { return StartTime(bare, L"BARE"); }});
+    Report("start to a painted form", times[0], times[1], 1.15);
 }
 
 }  // namespace tessaline::bench

@@ -4,8 +4,6 @@
 #include <psapi.h>
 #include <wincrypt.h>
 
-#include <cstdlib>
-
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_file.h"
 #include "model/estimate_fields.h"
@@ -20,9 +18,10 @@
 namespace tessaline::bench {
 namespace {
 
-void Demand(bool done) {
-    if (!done) std::abort();
-}
+constexpr int kFew = 1'000;
+constexpr int kMany = 10'000;
+// Protecting is slow on some systems, so the files take their contents from a few estimates.
+constexpr int kContents = 100;
 
 Estimate SampleWith(std::size_t lines, int number = 0) {
     Estimate estimate = SampleEstimate();
@@ -34,24 +33,25 @@ Estimate SampleWith(std::size_t lines, int number = 0) {
     return estimate;
 }
 
-// Protecting is slow on some systems, so the files take their contents from a few estimates.
-LocalStore MakeStore(const std::wstring& folder, int files) {
-    constexpr int kContents = 100;
-    std::vector<Bytes> contents;
+// A store of so many files, made when it is first asked for.
+LocalStore StoreOf(int files, const std::wstring& folder) {
+    const LocalStore store = LocalStoreBelow(folder + L"\\" + std::to_wstring(files));
+    const bool isThere =
+        GetFileAttributesW(store.EstimatesFolder.c_str()) != INVALID_FILE_ATTRIBUTES;
+    Demand(EnsureFolder(store.EstimatesFolder));
     std::wstring error;
-    for (int number = 0; number < kContents; ++number) {
-        contents.push_back(ProtectEstimateData(WriteNativeEstimate(SampleWith(6, number)), error));
-    }
-    const LocalStore store = LocalStoreBelow(folder);
-    EnsureFolder(store.EstimatesFolder);
-    for (int number = 0; number < files; ++number) {
-        const std::wstring path =
-            store.EstimatesFolder + L"\\" + std::to_wstring(number) + L".gfe";
-        const FileOwner file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                         FILE_ATTRIBUTE_NORMAL, nullptr));
-        const Bytes& content = contents[static_cast<std::size_t>(number % kContents)];
-        DWORD written = 0;
-        Demand(WriteFile(file.Get(), content.data(), DWORD(content.size()), &written, nullptr));
+    for (int number = 0; number < kContents && !isThere; ++number) {
+        const Bytes content =
+            ProtectEstimateData(WriteNativeEstimate(SampleWith(6, number)), error);
+        for (int copy = number; copy < files; copy += kContents) {
+            const std::wstring path =
+                store.EstimatesFolder + L"\\" + std::to_wstring(copy) + L".gfe";
+            const FileOwner file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                             FILE_ATTRIBUTE_NORMAL, nullptr));
+            DWORD written = 0;
+            Demand(
+                WriteFile(file.Get(), content.data(), DWORD(content.size()), &written, nullptr));
+        }
     }
     return store;
 }
@@ -87,39 +87,7 @@ std::size_t BareCatalogue(const LocalStore& store) {
 double PeakMegabytes() {
     PROCESS_MEMORY_COUNTERS counters{};
     K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
-    return static_cast<double>(counters.PeakWorkingSetSize) / 1e6;
-}
-
-// Comes first, while nothing else has raised the peak.
-void AddMemory(Measures& measures, const LocalStore& store) {
-    const double payloads = static_cast<double>(BareCatalogue(store)) / 1e6;
-    const double before = PeakMegabytes();
-    Demand(LoadAllEstimates(store).size() == 10'000);
-    const double peak = PeakMegabytes() - before;
-    measures.push_back(
-        {"peak memory, catalogue of 10,000", peak, payloads, "MB", peak / payloads, 5.0});
-}
-
-void AddCatalogue(Measures& measures, const LocalStore& small, const LocalStore& large) {
-    const auto load = [](const LocalStore& store) {
-        return
-            [&store] { return Milliseconds([&] { Demand(!LoadAllEstimates(store).empty()); }); };
-    };
-    const auto bare = [](const LocalStore& store) {
-        return [&store] { return Milliseconds([&] { BareCatalogue(store); }); };
-    };
-    const std::vector<double> few = Race(5, {load(small), bare(small)});
-    const std::vector<double> many = Race(
-        3, {load(large), bare(large), load(small),
-            [&] { return Milliseconds([&] { Demand(BuildPatientList(large).size() == 100); }); },
-            [&] { return Milliseconds([&] { Demand(BuildProviderList(large).size() == 100); }); },
-            [&] { return Milliseconds([&] { (void)MakeRevision(large, SampleWith(6)); }); }});
-    measures.push_back(Ratio("catalogue of 1,000", few[0], few[1], 1.05));
-    measures.push_back(Ratio("catalogue of 10,000", many[0], many[1], 1.05));
-    measures.push_back(Ratio("catalogue, ten times the files", many[0], many[2], 10.5));
-    measures.push_back(Ratio("patients of 10,000", many[3], many[0], 1.05));
-    measures.push_back(Ratio("providers of 10,000", many[4], many[0], 1.05));
-    measures.push_back(Ratio("a revision among 10,000", many[5], many[0], 1.02));
+    return static_cast<double>(counters.PeakWorkingSetSize) / (1024 * 1024);
 }
 
 // Calls `visit` for every text of the record, in stored order.
@@ -134,16 +102,19 @@ void ForEachText(const Value& value, Visit& visit) {
     }
 }
 
-// Converts every text to UTF-8 and back by Windows' own calls, and copies as many bytes.
+// Converts every text to UTF-8 and back by Windows' own calls, and copies as many bytes. What it
+// reads it keeps until the end, as a record does.
 void BarePayload(const Estimate& estimate, std::vector<char>& room) {
+    std::vector<std::wstring> texts;
+    texts.reserve(estimate.Lines.size() * 5 + 100);
     char* at = room.data();
     auto convert = [&](const std::wstring& text) {
+        std::wstring& back = texts.emplace_back(text.size(), L'\0');
         const int length = static_cast<int>(text.size());
         if (length == 0) return;
         const int size =
             WideCharToMultiByte(CP_UTF8, 0, text.data(), length, at,
                                 int(room.data() + room.size() - at), nullptr, nullptr);
-        std::wstring back(text.size(), L'\0');
         MultiByteToWideChar(CP_UTF8, 0, at, size, back.data(), length);
         at += size;
     };
@@ -151,7 +122,40 @@ void BarePayload(const Estimate& estimate, std::vector<char>& room) {
     Demand(std::vector<char>(room.data(), at).size() > 1000);
 }
 
-void AddPayload(Measures& measures) {
+}  // namespace
+
+void MeasureMemory(const std::wstring& folder) {
+    const LocalStore store = StoreOf(kMany, folder);
+    const double payloads = static_cast<double>(BareCatalogue(store)) / (1024 * 1024);
+    const double before = PeakMegabytes();
+    Demand(LoadAllEstimates(store).size() == kMany);
+    Report("peak memory, catalogue of 10,000", PeakMegabytes() - before, payloads, 5, "MB");
+}
+
+void MeasureCatalogue(const std::wstring& folder) {
+    const LocalStore few = StoreOf(kFew, folder), many = StoreOf(kMany, folder);
+    const auto timed = [](auto run) { return [run] { return Milliseconds(run); }; };
+    const auto load = [&](const LocalStore& store) {
+        return timed([&store] { Demand(!LoadAllEstimates(store).empty()); });
+    };
+    const auto bare = [&](const LocalStore& store) {
+        return timed([&store] { Demand(BareCatalogue(store) > 0); });
+    };
+    const std::vector<double> small = Race(7, {load(few), bare(few)});
+    const std::vector<double> large =
+        Race(3, {load(many), bare(many), load(few),
+                 timed([&] { Demand(BuildPatientList(many).size() == kContents); }),
+                 timed([&] { Demand(BuildProviderList(many).size() == kContents); }),
+                 timed([&] { Demand(MakeRevision(many, SampleWith(6)).RevisionNumber > 0); })});
+    Report("catalogue of 1,000", small[0], small[1], 1.05);
+    Report("catalogue of 10,000", large[0], large[1], 1.05);
+    Report("catalogue, ten times the files", large[0], large[2], 10.5);
+    Report("patients of 10,000", large[3], large[0], 1.05);
+    Report("providers of 10,000", large[4], large[0], 1.05);
+    Report("a revision among 10,000", large[5], large[0], 1.02);
+}
+
+void MeasurePayload(const std::wstring&) {
     const Estimate estimate = SampleWith(1000);
     std::vector<char> room(WriteNativeEstimate(estimate).size());
     const auto writeAndRead = [&] {
@@ -159,45 +163,21 @@ void AddPayload(Measures& measures) {
         std::wstring error;
         Demand(ReadNativeEstimate(WriteNativeEstimate(estimate), read, error));
     };
-    measures.push_back(Compare("payload of 1,000 lines, both ways", 50, 1.5, writeAndRead,
-                               [&] { BarePayload(estimate, room); }));
+    Compare("payload of 1,000 lines, both ways", 50, 1.5, writeAndRead,
+            [&] { BarePayload(estimate, room); });
 }
 
-std::wstring OlderDocument() {
-    std::wstring json = LR"({"EstimateId": "GFE-20240229-235959", "Lines": [)";
-    for (int line = 0; line < 100; ++line) {
-        json +=
-            LR"({"ServiceItem": "Surgeon's fee, arthroscopy", "Quantity": 2, )"
-            LR"("ServiceAddress": "400 Capitol Avenue", "DiagnosisCode": "S83.242A", )"
-            LR"("ServiceCodeType": "CPT", "ServiceCode": "29882", "ExpectedCharge": 415.5}, )";
-    }
-    return json + LR"({}], "ProviderNotes": "Bring a list of your medicines."})";
-}
-
-void AddLegacy(Measures& measures, const LocalStore& store) {
-    const Bytes key(32, 7);
-    const std::wstring path = store.BaseFolder + L"\\older.gfe";
+void MeasureOlderFile(const std::wstring&) {
+    const TemporaryStore store;
+    const std::wstring path = store.Path(L"older.gfe");
     std::wstring error;
-    Demand(WriteFileBytes(store.BaseFolder + L"\\data.key", key) &&
-           WriteFileBytes(path, LegacyFile(OlderDocument(), key)));
+    Demand(PutLegacyFile(store, L"older.gfe", LegacyDocument(SampleWith(100))));
     const auto open = [&] {
         Estimate estimate;
         Demand(OpenLegacyEstimateFile(path, store, estimate, error));
     };
-    measures.push_back(Compare("older file of 100 lines", 50, 1.25, open, [&] {
-        Demand(!DecryptLegacyFile(ReadFileBytes(path), store, error).empty());
-    }));
-}
-
-}  // namespace
-
-void AddStoreMeasures(Measures& measures, const std::wstring& folder) {
-    const LocalStore small = MakeStore(folder + L"\\small", 1000);
-    const LocalStore large = MakeStore(folder + L"\\large", 10'000);
-    AddMemory(measures, large);
-    AddCatalogue(measures, small, large);
-    AddPayload(measures);
-    AddLegacy(measures, small);
+    Compare("older file of 100 lines", 50, 1.25, open,
+            [&] { Demand(!DecryptLegacyFile(ReadFileBytes(path), store, error).empty()); });
 }
 
 }  // namespace tessaline::bench
