@@ -25,7 +25,7 @@ void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
     const wchar_t* from = text.data();
     const wchar_t* const end = from + text.size();
     const std::size_t start = bytes.size();
-    bytes.resize(start + Utf8Room(text));
+    bytes.resize(start + 3 * text.size());
     char* const first = reinterpret_cast<char*>(bytes.data());
     char* to = first + start;
     while (from != end) {
