@@ -32,10 +32,9 @@ TEST_CASE("A new estimate has an identifier, which is its root, and was made now
 
 TEST_CASE("The first rule that an estimate breaks is what the user is told") {
     Estimate estimate;
-    const std::function<std::wstring(std::wstring, std::wstring)> set =
-        [&estimate](const std::wstring& path, const std::wstring& text) {
-            REQUIRE(SetValue(estimate, path, text));
-            return ValidateEstimate(estimate);
-        };
+    const auto set = [&estimate](const std::wstring& path, const std::wstring& text) {
+        REQUIRE(SetValue(estimate, path, text));
+        return ValidateEstimate(estimate);
+    };
     CheckRules(L"validation.txt", {{L"set", set}});
 }

@@ -46,28 +46,6 @@ TEST_CASE("Payloads are those that another program makes of the same records") {
     }
 }
 
-TEST_CASE("Every field comes back") {
-    const Estimate written = DistinctEstimate();
-    Estimate read;
-    std::wstring error;
-    REQUIRE(ReadNativeEstimate(WriteNativeEstimate(written), read, error));
-    CHECK(Differences(read, written) == L"");
-}
-
-TEST_CASE("Unpaired surrogates are written, and ill-formed bytes read, as U+FFFD") {
-    Estimate estimate;
-    estimate.EstimateId =
-        L"a\xD83E"
-        L"b\xDDB5";
-    SecretBytes payload = WriteNativeEstimate(estimate);
-    std::wstring error;
-    REQUIRE(ReadNativeEstimate(payload, estimate, error));
-    CHECK(estimate.EstimateId == L"a\uFFFDb\uFFFD");
-    payload[12] = 0xFF;
-    REQUIRE(ReadNativeEstimate(payload, estimate, error));
-    CHECK(estimate.EstimateId == L"\uFFFD\uFFFDb\uFFFD");
-}
-
 // The verdicts were counted by an independent reader. Counts that are read from where they would
 // stand, behind a text that ran past the end, are judged as counts.
 TEST_CASE("A payload cut at any length is refused") {
