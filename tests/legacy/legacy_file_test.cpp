@@ -120,7 +120,9 @@ TEST_CASE("Hashes, keys, times, numbers and documents are read as the older edit
           L"Could not parse the legacy estimate data.");
     // Without a key file the derived key is that of the file.
     folder.UseKey({});
-    CHECK(folder.OpenDocument(LR"({"EstimateId":"b"})") == L"opened b");
+    const Estimate saved = DistinctEstimate();
+    CHECK(folder.OpenDocument(LegacyDocument(saved)) == L"opened " + saved.EstimateId);
+    CHECK(Differences(folder.estimate, saved) == L"ReservedFlag ");
 }
 
 TEST_CASE("Another folder and another user have another key") {

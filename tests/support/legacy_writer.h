@@ -1,15 +1,62 @@
 // Files of the older edition, as it wrote them.
 #pragma once
 
+#include <ctime>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "legacy/cng.h"
 #include "legacy/legacy_key.h"
+#include "model/estimate_fields.h"
 #include "platform/utf8.h"
 #include "tests/support/temporary_store.h"
 
 namespace tessaline {
+
+namespace legacy_writer {
+
+inline std::wstring Json(const std::wstring& text) {
+    std::wstring json = L"\"";
+    for (const wchar_t c : text) {
+        if (c == L'"' || c == L'\\') json += L'\\';
+        json += c;
+    }
+    return json + L"\"";
+}
+
+inline std::wstring Json(std::int64_t stamp) {
+    if (stamp <= 0) return L"null";
+    std::tm time{};
+    _gmtime64_s(&time, &stamp);
+    wchar_t text[64];
+    return {text, std::wcsftime(text, 64, L"\"%Y-%m-%dT%H:%M:%S.1234567Z\"", &time)};
+}
+
+template <typename Value>
+std::wstring Json(const Value& value) {
+    std::wstring json;
+    if constexpr (std::is_same_v<Value, bool>) {
+        return value ? L"true" : L"false";
+    } else if constexpr (std::is_arithmetic_v<Value>) {
+        return std::to_wstring(value);
+    } else if constexpr (requires { value.size(); }) {
+        for (const auto& element : value) json += (json.empty() ? L"" : L", ") + Json(element);
+        return L"[" + json + L"]";
+    } else {
+        ForEachField(value, [&json](const std::wstring& name, const auto& field) {
+            json += (json.empty() ? L"" : L", ") + Json(name) + L": " + Json(field);
+        });
+        return L"{" + json + L"}";
+    }
+}
+
+}  // namespace legacy_writer
+
+/// The document of a record. `ReservedFlag` has no place in it.
+[[nodiscard]] inline std::wstring LegacyDocument(const Estimate& estimate) {
+    return legacy_writer::Json(estimate);
+}
 
 /// A document, encrypted under a key of 32 bytes. Empty when Windows' cryptography fails.
 [[nodiscard]] inline Bytes LegacyFile(std::wstring_view document, ByteView key) {
