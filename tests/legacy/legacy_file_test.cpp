@@ -1,5 +1,6 @@
 #include "legacy/legacy_file.h"
 
+#include <array>
 #include <regex>
 
 #include "legacy/legacy_cipher.h"

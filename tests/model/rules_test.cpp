@@ -1,6 +1,7 @@
 // The rules for texts, money, dates and single fields.
 #include <chrono>
 #include <ctime>
+#include <cwchar>
 
 #include "model/dates.h"
 #include "model/estimate.h"
