@@ -5,6 +5,9 @@
 #include "platform/controls.h"
 #include "platform/scale.h"
 #include "platform/theme.h"
+#include "store/estimate_file.h"
+#include "tests/support/distinct_estimate.h"
+#include "tests/support/failing_memory.h"
 #include "tests/support/readable.h"
 #include "tests/ui/told_window.h"
 #include "ui/main_window.h"
@@ -14,7 +17,29 @@ namespace {
 
 RunningProgram* running = nullptr;
 
-// A message box in words; `answer` receives the button with which `expected` ends, or the first.
+// The box or dialog that takes the input, whether this program is in the foreground or not.
+HWND ModalWindow() {
+    const SoundMemory sound;
+    HWND modal = nullptr;
+    const auto look = [](HWND window, LPARAM found) -> BOOL {
+        const std::wstring name = ClassOf(window);
+        if (!IsBox(window) && (!name.starts_with(L"GFE_") || name.ends_with(L"Preview")))
+            return TRUE;
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+        *reinterpret_cast<HWND*>(found) = window;
+        return FALSE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&modal));
+    return modal;
+}
+
+}  // namespace
+
+bool IsBox(HWND window) {
+    const SoundMemory sound;
+    return ClassOf(window) == L"#32770";
+}
+
 std::wstring DescribeBox(HWND box, const std::wstring& expected, HWND& answer) {
     const std::pair<LPCWSTR, wchar_t> icons[] = {
         {IDI_INFORMATION, L'i'}, {IDI_WARNING, L'!'}, {IDI_ERROR, L'x'}, {IDI_QUESTION, L'?'}};
@@ -35,27 +60,6 @@ std::wstring DescribeBox(HWND box, const std::wstring& expected, HWND& answer) {
     }
     return icon + L" " + WindowText(box) + L": " + text + L" [" + buttons.substr(1) + L"]";
 }
-
-bool IsBox(HWND window) {
-    return ClassOf(window) == L"#32770";
-}
-
-// The box or dialog that takes the input, whether this program is in the foreground or not.
-HWND ModalWindow() {
-    HWND modal = nullptr;
-    const auto look = [](HWND window, LPARAM found) -> BOOL {
-        const std::wstring name = ClassOf(window);
-        if (!IsBox(window) && (!name.starts_with(L"GFE_") || name.ends_with(L"Preview")))
-            return TRUE;
-        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-        *reinterpret_cast<HWND*>(found) = window;
-        return FALSE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&modal));
-    return modal;
-}
-
-}  // namespace
 
 bool IsWaiting() {
     return GetCursor() == LoadCursorW(nullptr, IDC_WAIT);
@@ -96,9 +100,19 @@ int RunningProgram::Settle() const {
     return quitCode;
 }
 
+void RunningProgram::CheckFile() const {
+    if (app.IsModified || app.CurrentFilePath.empty()) return;
+    Estimate saved;
+    std::wstring error;
+    CHECK(LoadEstimateFile(app.store, app.CurrentFilePath, saved, error));
+    saved.LastModifiedOn = app.currentEstimate.LastModifiedOn;  // when the form was last read
+    CHECK(Differences(saved, app.currentEstimate) == L"");
+}
+
 void RunningProgram::LookAround() {
     const HWND modal = ModalWindow();
     if (modal == nullptr) return;
+    if (user_) return user_(modal);
     CHECK_FALSE(IsWaiting());
     IsBox(modal) ? AnswerBox(modal) : TakeStep(modal);
 }

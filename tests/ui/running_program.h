@@ -14,6 +14,11 @@
 
 namespace tessaline {
 
+[[nodiscard]] bool IsBox(HWND window);
+
+/// A message box in words; `answer` receives the button with which `expected` ends, or the first.
+[[nodiscard]] std::wstring DescribeBox(HWND box, const std::wstring& expected, HWND& answer);
+
 /// Whether the wait cursor shows.
 [[nodiscard]] bool IsWaiting();
 
@@ -37,6 +42,12 @@ class RunningProgram {
     /// What the user does next in a modal window, once its loop is idle.
     void InDialog(std::function<void(HWND dialog)> step) { steps_.push_back(std::move(step)); }
 
+    /// From now on this user deals with every box and dialog, each time that its loop is idle.
+    void LeaveTo(std::function<void(HWND modal)> user) { user_ = std::move(user); }
+
+    /// A form without changes is what its file holds, if it has one.
+    void CheckFile() const;
+
   private:
     void LookAround();
     void AnswerBox(HWND box);
@@ -44,6 +55,7 @@ class RunningProgram {
 
     std::deque<std::wstring> boxes_;
     std::deque<std::function<void(HWND)>> steps_;
+    std::function<void(HWND)> user_;
     HWND dialog_ = nullptr;
     UINT_PTR timer_ = 0;
 };

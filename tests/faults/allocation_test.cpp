@@ -1,0 +1,176 @@
+// Every allocation fails once, in everything that the program does.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdio>
+#include <new>
+#include <regex>
+
+#include "platform/controls.h"
+#include "store/catalogue.h"
+#include "tests/support/distinct_estimate.h"
+#include "tests/support/failing_memory.h"
+#include "tests/support/legacy_writer.h"
+#include "tests/support/pretended_printer.h"
+#include "tests/support/readable.h"
+#include "tests/ui/running_program.h"
+#include "tests/ui/told_window.h"
+#include "ui/binding.h"
+#include "ui/control_ids.h"
+#include "ui/sample_estimate.h"
+
+using namespace tessaline;
+
+void* operator new(std::size_t size) {
+    const bool fails = allocationsLeft > 0 && --allocationsLeft == 0;
+    void* const memory = fails ? nullptr : HeapAlloc(GetProcessHeap(), 0, size);
+    if (memory == nullptr) throw std::bad_alloc();
+    return memory;
+}
+
+void operator delete(void* memory) noexcept {
+    HeapFree(GetProcessHeap(), 0, memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    HeapFree(GetProcessHeap(), 0, memory);
+}
+
+namespace {
+
+// One of the main window's buttons, the estimate for which it is pressed, and whether that counts
+// as saved; no button stands for the automatic save.
+struct Command {
+    const char* name;
+    int button;
+    const wchar_t* status = kStatusIssued;
+    bool isClean = false;
+};
+
+// clang-format off
+constexpr Command kCommandsToFail[] = {
+    {"New", kNewButton}, {"Open", kOpenButton}, {"Sample", kSampleButton},
+    {"Save", kSaveButton, kStatusDraft}, {"Save a revision", kSaveButton},
+    {"Patient Lookup", kPatientLookupButton}, {"Provider Lookup", kProviderLookupButton},
+    {"Add Item", kAddLineButton}, {"Edit Item", kEditLineButton},
+    {"Remove Item", kRemoveLineButton}, {"Add", kAddSeparateButton},
+    {"Edit", kEditSeparateButton}, {"Remove", kRemoveSeparateButton},
+    {"Print Preview", kPreviewButton, kStatusDraft},
+    {"Print", kPrintButton, kStatusDraft, true}, {"automatic save", 0}};
+// clang-format on
+
+struct Form {
+    RunningProgram program{96};
+    AppState& app = program.app;
+    int boxes = 0;  // that say that memory has run out
+    int looks = 0;  // at a dialog that stays
+
+    Form() {
+        program.LeaveTo([this](HWND modal) { Answer(modal); });
+    }
+
+    // Presses the first button, in a dialog after filling in what all of them accept.
+    void Answer(HWND modal) {
+        HWND first = FindWindowExW(modal, nullptr, L"Button", nullptr);
+        if (IsBox(modal)) {
+            const SoundMemory sound;
+            boxes += DescribeBox(modal, L"", first) ==
+                     L"x Good Faith Estimate: There is not enough memory to do this. What you "
+                     L"entered is kept. Close other programs and try again. [OK]";
+        } else if (++looks == 1) {
+            SetWindowTextW(GetDlgItem(modal, 1), L"e");
+            SetWindowTextW(GetDlgItem(modal, 7), L"1");
+        }
+        ListView_SetItemState(GetDlgItem(modal, 2), 0, LVIS_SELECTED, LVIS_SELECTED);
+        PostMessageW(looks < 9 ? first : modal, looks < 9 ? BM_CLICK : WM_CLOSE, 0, 0);
+    }
+
+    void Begin(const Command& command) {
+        for (const auto& entry : LoadAllEstimates(program.store)) {
+            DeleteFileW(entry.FilePath.c_str());
+        }
+        Estimate estimate = SampleEstimate();
+        estimate.EstimateId = estimate.RootEstimateId = L"GFE-1";
+        estimate.EstimateStatus = command.status;
+        estimate.ProviderNotes.clear();
+        program.store.PutEstimate(L"GFE-1.gfe", estimate);
+        program.store.PutEstimate(L"full.gfe", DistinctEstimate());
+        PutLegacyFile(program.store, L"older.gfe", LegacyDocument(estimate));
+        BindToForm(estimate);
+        app.CurrentFilePath = program.store.Path(L"GFE-1.gfe");
+        for (const HWND list : {app.linesList, app.separateList}) {
+            ListView_SetItemState(list, 0, LVIS_SELECTED, LVIS_SELECTED);
+        }
+        if (!command.isClean) SetWindowTextW(ControlById(kPrimaryServiceEdit), L"Something else");
+        boxes = looks = 0;
+    }
+
+    // Everything that the form shows, a new identifier as "now".
+    [[nodiscard]] std::wstring Shown() const {
+        static const std::wregex clock(L"GFE-\\d{8}-\\d{6}");
+        std::wstring shown = Cells(app.linesList) + Cells(app.separateList);
+        for (const auto& [id, control] : app.controlById) shown += WindowText(control) + L"\n";
+        return std::regex_replace(shown + WindowText(app.totalAmount), clock, L"now");
+    }
+
+    void CheckFiles() const {
+        std::size_t files = 0;
+        ForEachFile(app.store.EstimatesFolder, L"*", [&](const auto&) { return ++files > 0; });
+        CHECK(files >= 3);
+        CHECK(LoadAllEstimates(app.store).size() == files);
+        program.CheckFile();
+    }
+
+    void CheckLists() const {
+        const Estimate& record = app.currentEstimate;
+        CHECK(ListView_GetItemCount(app.linesList) == int(record.Lines.size()));
+        CHECK(ListView_GetItemCount(app.separateList) == int(record.SeparateItems.size()));
+    }
+};
+
+}  // namespace
+
+// The short version lets more and more allocations succeed.
+TEST_CASE("A command that runs out of memory says so once and keeps the form whole") {
+    PretendPrinter();
+    Form form;
+    const AppState& app = form.app;
+    const bool all = _wgetenv(L"TESSALINE_SOAK") != nullptr;
+    for (const Command& command : kCommandsToFail) {
+        std::wstring after;
+        bool isModifiedAfter = false;
+        long long failed = 0;
+        // The first time, nothing fails.
+        for (long long n = 0, left = 0; left == 0; n += all ? 1 : 1 + n / 6, ++failed) {
+            INFO(doctest::String(command.name));
+            CAPTURE(n);
+            form.Begin(command);
+            const std::wstring before = form.Shown(), path = app.CurrentFilePath;
+            allocationsLeft = n;
+            if (command.button == 0) SendMessageW(app.mainWindow, WM_TIMER, 1, 0);
+            SendMessageW(ControlById(command.button), BM_CLICK, 0, 0);
+            left = std::exchange(allocationsLeft, 0);
+            const std::wstring shown = form.Shown();
+            if (n == 0) after = shown, isModifiedAfter = app.IsModified;
+            CHECK((shown == before || shown == after));
+            if (shown != after) CHECK(app.CurrentFilePath == path);
+            // Sorting, for one, can do without the memory that it asks for.
+            CHECK(form.boxes <= (n == 0 || command.button == 0 ? 0 : 1));
+            if (form.boxes == 0 && command.button != 0) {
+                CHECK((shown == after && app.IsModified == isModifiedAfter));
+            }
+            // Only output goes on after what it saves.
+            if (form.boxes > 0 && command.button < kPreviewButton) CHECK(app.IsModified);
+            form.CheckLists();
+            form.CheckFiles();
+            CHECK(IsWindowEnabled(app.mainWindow));
+            CHECK(printJobs.begun == printJobs.ended + printJobs.aborted);
+            while (const HWND preview = FindWindowW(L"GFE_Native_Preview", nullptr))
+                DestroyWindow(preview);
+        }
+        std::printf("%s: %lld allocations failed\n", command.name, failed - 2);
+        CHECK(failed > 3);
+    }
+    CHECK(printJobs.aborted > 0);
+}
