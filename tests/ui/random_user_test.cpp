@@ -1,0 +1,202 @@
+// A user who does anything at all, at random, with the whole program.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdio>
+#include <random>
+#include <vector>
+
+#include "store/catalogue.h"
+#include "tests/support/distinct_estimate.h"
+#include "tests/support/pretended_printer.h"
+#include "tests/support/readable.h"
+#include "tests/ui/running_program.h"
+#include "tests/ui/told_window.h"
+
+extern "C" {
+extern decltype(&CreateCompatibleDC) __imp_CreateCompatibleDC;
+extern decltype(&CreateFontW) __imp_CreateFontW;
+extern decltype(&CreatePen) __imp_CreatePen;
+extern decltype(&CreateSolidBrush) __imp_CreateSolidBrush;
+extern decltype(&DeleteDC) __imp_DeleteDC;
+extern decltype(&DeleteObject) __imp_DeleteObject;
+extern decltype(&GetDC) __imp_GetDC;
+extern decltype(&ReleaseDC) __imp_ReleaseDC;
+extern decltype(&WriteFile) __imp_WriteFile;
+}
+
+using namespace tessaline;
+
+namespace {
+
+unsigned Setting(const wchar_t* name, unsigned otherwise) {
+    const wchar_t* text = _wgetenv(name);
+    return text == nullptr ? otherwise : static_cast<unsigned>(std::wcstoul(text, nullptr, 10));
+}
+
+int drawing = 0;  // objects and device contexts that are not given back yet
+int writes = 0;
+
+// Counts the successes of an imported function. Those that are counted differ in their types.
+template <int step, auto& count, typename Result, typename... Arguments>
+void CountCalls(Result (*&import)(Arguments...)) {
+    static Result (*const real)(Arguments...) = import;
+    import = [](Arguments...arguments) { const Result result = real(arguments...);
+    if (result) count += step;
+    return result;
+};
+}  // namespace
+
+// The descendants of a window but for labels, or for none the windows of the thread.
+std::vector<HWND> Windows(HWND parent) {
+    std::vector<HWND> windows;
+    const WNDENUMPROC add = [](HWND window, LPARAM list) -> BOOL {
+        if (ClassOf(window) == L"Static") return TRUE;
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+    };
+    const auto list = reinterpret_cast<LPARAM>(&windows);
+    if (parent != nullptr) EnumChildWindows(parent, add, list);
+    if (parent == nullptr) EnumThreadWindows(GetCurrentThreadId(), add, list);
+    return windows;
+}
+
+class RandomUser {
+  public:
+    explicit RandomUser(unsigned seed) : random_(seed) {
+        program.LeaveTo([this](HWND modal) { IsBox(modal) ? AnswerBox(modal) : Act(modal); });
+    }
+
+    // With the main window, now and then with a preview.
+    void Act() {
+        const HWND preview = FindWindowW(L"GFE_Native_Preview", nullptr);
+        Act(preview != nullptr && Below(3) == 0 ? preview : program.app.mainWindow);
+    }
+
+    RunningProgram program{96};
+    unsigned actions = 0;
+
+  private:
+    int Below(std::size_t limit) { return static_cast<int>(random_() % limit); }
+
+    // Anything that can be done with a window: to itself, else to something in it.
+    void Act(HWND window) {
+        ++actions;
+        const bool isMain = window == program.app.mainWindow;
+        const int action = Below(isMain ? 16 : 8);
+        const std::vector<HWND> inside = Windows(window);
+        if (action == 0) {
+            // A form without changes would close at once, and the program with it.
+            if (!isMain || program.app.IsModified) PostMessageW(window, WM_CLOSE, 0, 0);
+        } else if (action == 1) {
+            PostMessageW(program.app.mainWindow, WM_TIMER, 1, 0);
+        } else if (action == 2) {
+            SetWindowPos(window, nullptr, 0, 0, Below(2000), Below(1500), SWP_NOMOVE);
+        } else if (action == 3) {
+            constexpr WPARAM kKeys[] = {VK_TAB, VK_RETURN, VK_ESCAPE};
+            PostMessageW(GetFocus(), WM_KEYDOWN, kKeys[Below(3)], 0);
+        } else if (!inside.empty()) {
+            Touch(inside[random_() % inside.size()]);
+        }
+    }
+
+    void AnswerBox(HWND box) {
+        HWND first = nullptr, no = nullptr;
+        const std::wstring words = DescribeBox(box, L"", first);
+        CHECK(DescribeBox(box, L"] No", no).find(L"memory") == std::wstring::npos);
+        // The program is to go on.
+        const bool ends = words.find(L"Close the program?") != std::wstring::npos;
+        SendMessageW(ends || Below(2) == 0 ? no : first, BM_CLICK, 0, 0);
+    }
+
+    void Touch(HWND control) {
+        const std::wstring kind = ClassOf(control);
+        if (kind == L"Edit") {
+            Type(control);
+        } else if (kind == L"Button") {
+            if (IsWindowEnabled(control)) PostMessageW(control, BM_CLICK, 0, 0);
+        } else if (kind == L"ComboBox") {
+            PostMessageW(control, WM_KEYDOWN, Below(2) == 0 ? VK_DOWN : VK_UP, 0);
+        } else if (kind == L"SysListView32") {
+            ListView_SetItemState(control, Below(4), LVIS_SELECTED, LVIS_SELECTED);
+            const LPARAM place = MAKELPARAM(20, 30 + 18 * Below(4));
+            PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, place);
+        } else {
+            PostMessageW(control, WM_VSCROLL, random_() % 8, 0);
+            PostMessageW(control, WM_MOUSEWHEEL, MAKEWPARAM(0, 120 * (Below(21) - 10)), 0);
+        }
+    }
+
+    void Type(HWND edit) {
+        static const std::wstring many(3000, L'x');
+        const wchar_t* const texts[] = {L"",
+                                        L"Ann",
+                                        L"  Lee ",
+                                        L"02/29/1984",
+                                        L"62701",
+                                        L"1",
+                                        L"ann@lee.example",
+                                        L"$1,234.50",
+                                        L"-3",
+                                        L"1e308",
+                                        L"a/b:c|?",
+                                        L"DEMO-1",
+                                        L"\u4F60\u597D \U0001F600",
+                                        L"1\r\n2\r\n3",
+                                        many.c_str()};
+        SendMessageW(edit, EM_SETSEL, 0, Below(4) == 0 ? 1 : -1);
+        const wchar_t* text = texts[random_() % std::size(texts)];
+        SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+    }
+
+    std::mt19937 random_;
+};
+
+}  // namespace
+
+TEST_CASE("Whatever a user does, the program goes on, loses nothing and leaks nothing") {
+    const unsigned seed = Setting(L"TESSALINE_SEED", std::random_device()());
+    const unsigned wanted = Setting(L"TESSALINE_ACTIONS", 1500);
+    std::printf("TESSALINE_SEED=%u TESSALINE_ACTIONS=%u\n", seed, wanted);
+    std::fflush(stdout);
+    PretendPrinter();
+    CountCalls<1, drawing>(__imp_CreateCompatibleDC);
+    CountCalls<1, drawing>(__imp_CreateFontW);
+    CountCalls<1, drawing>(__imp_CreatePen);
+    CountCalls<1, drawing>(__imp_CreateSolidBrush);
+    CountCalls<1, drawing>(__imp_GetDC);
+    CountCalls<-1, drawing>(__imp_DeleteDC);
+    CountCalls<-1, drawing>(__imp_DeleteObject);
+    CountCalls<-1, drawing>(__imp_ReleaseDC);
+    CountCalls<1, writes>(__imp_WriteFile);
+    RandomUser user(seed);
+    const RunningProgram& program = user.program;
+    const HWND main = program.app.mainWindow;
+    REQUIRE(program.store.PutEstimate(L"full.gfe", DistinctEstimate()));
+    RedrawWindow(main, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const std::size_t windows = Windows(nullptr).size(), controls = Windows(main).size();
+    const int objects = drawing;
+    int saves = 0;
+    while (user.actions < wanted) {
+        writes = 0;
+        user.Act();
+        CAPTURE(user.actions);
+        REQUIRE(program.Settle() == -1);
+        CHECK(IsWindowEnabled(main));
+        if (writes > 0) program.CheckFile(), ++saves;
+    }
+    while (const HWND preview = FindWindowW(L"GFE_Native_Preview", nullptr))
+        DestroyWindow(preview);
+    CHECK(program.Settle() == -1);
+    CHECK(Windows(nullptr).size() == windows);
+    CHECK(Windows(main).size() == controls);
+    CHECK((drawing == objects && objects > 0));
+    CHECK(printJobs.begun == printJobs.ended);
+    CHECK(saves > 0);
+    int files = 0;
+    ForEachFile(program.store->EstimatesFolder, L"*", [&](const auto&) { return ++files > 0; });
+    CHECK(int(LoadAllEstimates(program.store).size()) == files);
+    std::printf("%u actions, %d saves, %d files, %d print jobs\n", user.actions, saves, files,
+                printJobs.ended);
+}
