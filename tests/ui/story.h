@@ -11,7 +11,9 @@
 
 namespace tessaline {
 
-/// Makes every story a test case of its own, each played in a program of its own.
+/// Makes every story a test case of its own, each played in a program of its own. The environment
+/// may name another folder of stories (TESSALINE_STORIES) and one for their data
+/// (TESSALINE_FOLDER).
 void RegisterStories();
 
 }  // namespace tessaline
