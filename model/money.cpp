@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cwchar>
 
 #include "model/number.h"
@@ -12,7 +13,9 @@ std::wstring FormatMoney(double dollars) {
     // The largest double has 309 digits before its point. The library rounds the exact value; its
     // newer `to_chars` does too, and brings 170 kB of tables.
     std::array<wchar_t, 330> text{};
-    std::swprintf(text.data(), text.size(), L"$%.2f", dollars);
+    const int length = std::swprintf(text.data(), text.size(), L"$%.2f", dollars);
+    // The library writes the point of the process's locale, which a printer driver may set.
+    if (std::isfinite(dollars)) text[static_cast<std::size_t>(length) - 3] = L'.';
     return text.data();
 }
 

@@ -1,5 +1,6 @@
 // The rules for texts, money, dates and single fields.
 #include <chrono>
+#include <clocale>
 #include <ctime>
 
 #include "model/dates.h"
@@ -92,6 +93,12 @@ TEST_CASE("Amounts of any length are written, and read in no time") {
     CHECK(FormatMoney(1e308).size() == 309 + 4);
     // The C library takes a minute for this one.
     CHECK(ParseMoneyText(L"0." + std::wstring(1'000'000, L'5')) == 5.0 / 9);
+}
+
+TEST_CASE("Amounts have a full stop whatever the locale of the process") {
+    REQUIRE(std::setlocale(LC_NUMERIC, "German") != nullptr);
+    CHECK(FormatMoney(1234.5) == L"$1234.50");
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 TEST_CASE("A new identifier is the current second of local time") {
