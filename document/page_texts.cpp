@@ -10,7 +10,7 @@ namespace {
 
 constexpr wchar_t kBullet[] = L" \u2022 ";
 
-void AppendPiece(std::wstring& block, std::wstring_view caption, std::wstring_view value) {
+void AppendCaptioned(std::wstring& block, std::wstring_view caption, std::wstring_view value) {
     if (!value.empty()) block.append(caption).append(value);
 }
 
@@ -18,27 +18,27 @@ void AppendPiece(std::wstring& block, std::wstring_view caption, std::wstring_vi
 
 std::wstring PatientBlock(const PatientInfo& patient) {
     std::wstring block = JoinName(patient);
-    AppendPiece(block, L"\nDOB: ", patient.DateOfBirth);
-    AppendPiece(block, L"   Account: ****", patient.AccountLast4);
-    AppendPiece(
+    AppendCaptioned(block, L"\nDOB: ", patient.DateOfBirth);
+    AppendCaptioned(block, L"   Account: ****", patient.AccountLast4);
+    AppendCaptioned(
         block, L"\n",
         JoinAddress(patient.Street, patient.Apartment, patient.City, patient.State, patient.Zip));
-    AppendPiece(block, L"\n", patient.Phone);
-    AppendPiece(block, kBullet, patient.Email);
+    AppendCaptioned(block, L"\n", patient.Phone);
+    AppendCaptioned(block, kBullet, patient.Email);
     return block;
 }
 
 std::wstring ProviderBlock(const ProviderInfo& provider) {
     std::wstring block = provider.OrganizationName;
-    AppendPiece(block, L"\n", provider.ProviderType);
-    AppendPiece(block, L"\n",
-                JoinAddress(provider.Street, {}, provider.City, provider.State, provider.Zip));
-    AppendPiece(block, L"\nContact: ", provider.ContactPerson);
-    AppendPiece(block, L"\n", provider.Phone);
-    AppendPiece(block, kBullet, provider.Email);
-    AppendPiece(block, L"\n", provider.Website);
-    AppendPiece(block, L"\nNPI: ", provider.Npi);
-    AppendPiece(block, L"   TIN: ", provider.Tin);
+    AppendCaptioned(block, L"\n", provider.ProviderType);
+    AppendCaptioned(block, L"\n",
+                    JoinAddress(provider.Street, {}, provider.City, provider.State, provider.Zip));
+    AppendCaptioned(block, L"\nContact: ", provider.ContactPerson);
+    AppendCaptioned(block, L"\n", provider.Phone);
+    AppendCaptioned(block, kBullet, provider.Email);
+    AppendCaptioned(block, L"\n", provider.Website);
+    AppendCaptioned(block, L"\nNPI: ", provider.Npi);
+    AppendCaptioned(block, L"   TIN: ", provider.Tin);
     return block;
 }
 

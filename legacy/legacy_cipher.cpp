@@ -8,7 +8,6 @@
 namespace tessaline {
 namespace {
 
-constexpr std::uint8_t kMagic[] = {'G', 'F', 'E', '2'};
 constexpr std::size_t kNonceSize = 12;
 constexpr std::size_t kTagSize = 16;
 
@@ -62,9 +61,8 @@ bool Decrypt(const AesKey& aes, ByteView nonce, ByteView tag, ByteView ciphertex
 }  // namespace
 
 SecretBytes DecryptLegacyFile(ByteView file, const LocalStore& store, std::wstring& error) {
-    constexpr std::size_t kDocumentStart = sizeof kMagic + kNonceSize + kTagSize;
-    if (file.size() < kDocumentStart) return {};
-    if (!std::equal(std::begin(kMagic), std::end(kMagic), file.begin())) return {};
+    constexpr std::size_t kDocumentStart = kLegacyMarker.size() + kNonceSize + kTagSize;
+    if (file.size() < kDocumentStart || !BeginsWith(file, kLegacyMarker)) return {};
     const SecretBytes key = GetLegacyKey(store);
     if (key.size() != kLegacyKeySize) {
         error = L"Legacy encryption key is unavailable.";
@@ -73,9 +71,9 @@ SecretBytes DecryptLegacyFile(ByteView file, const LocalStore& store, std::wstri
     const AesKey aes = MakeAesKey(key);
     if (!aes.key) return {};
     SecretBytes plaintext;
-    if (Decrypt(aes, file.subspan(sizeof kMagic, kNonceSize),
-                file.subspan(sizeof kMagic + kNonceSize, kTagSize), file.subspan(kDocumentStart),
-                plaintext)) {
+    if (Decrypt(aes, file.subspan(kLegacyMarker.size(), kNonceSize),
+                file.subspan(kLegacyMarker.size() + kNonceSize, kTagSize),
+                file.subspan(kDocumentStart), plaintext)) {
         return plaintext;
     }
     error = L"Could not decrypt the legacy estimate.";

@@ -11,7 +11,7 @@
 namespace tessaline {
 namespace {
 
-// The text of a document, ill-formed UTF-8 replaced by U+FFFD.
+// The text of a document, ill-formed UTF-8 replaced by U+FFFD, in memory that will be wiped.
 std::wstring_view WideText(ByteView utf8, DocumentMemory& memory) {
     // No byte becomes more than one code unit.
     auto* text = static_cast<wchar_t*>(

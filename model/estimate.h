@@ -100,8 +100,8 @@ struct Estimate {
     std::vector<ServiceLine> Lines;
     std::vector<SeparateItem> SeparateItems;
     std::wstring ProviderNotes;
-    bool ReservedFlag =
-        false;  ///< carried by the native file; only a revision changes it, to false
+    /// Carried by the native file; only a revision changes it, to false.
+    bool ReservedFlag = false;
 
     bool operator==(const Estimate&) const = default;
 };

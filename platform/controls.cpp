@@ -56,10 +56,6 @@ LRESULT CALLBACK PassTabAndEscape(HWND edit, UINT message, WPARAM wParam, LPARAM
 
 }  // namespace
 
-void PlaceControl(HWND control, const Box& box) {
-    MoveWindow(control, Scale(box.x), Scale(box.y), Scale(box.width), Scale(box.height), TRUE);
-}
-
 HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font, DWORD extraStyle) {
     const HFONT used = font != nullptr ? font : CurrentTheme().uiFont.Get();
     return MakeControl(parent, 0, box, {L"STATIC", text, extraStyle, 0, used});

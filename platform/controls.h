@@ -23,9 +23,6 @@ inline constexpr int kChoiceHeight = 220;
 
 using Entries = std::span<const wchar_t* const>;
 
-/// Moves a child to a place given at 96 DPI.
-void PlaceControl(HWND control, const Box& box);
-
 /// A static text; the ordinary font when none is given.
 HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font = nullptr,
                DWORD extraStyle = 0);

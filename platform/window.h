@@ -15,8 +15,8 @@ namespace tessaline {
 struct WindowClass {
     const wchar_t* name;
     WNDPROC procedure;
-    HBRUSH
-    background;  ///< borrowed for the life of the process; a system colour index + 1 will do
+    /// Borrowed for the life of the process; a system colour index + 1 will do.
+    HBRUSH background;
     HICON icon = nullptr;
 };
 

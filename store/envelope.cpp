@@ -54,8 +54,7 @@ Bytes ProtectEstimateData(ByteView payload, std::wstring& error) {
 }
 
 SecretBytes UnprotectEstimateData(ByteView content, std::wstring& error) {
-    if (content.size() <= kNativeMarker.size() ||
-        !std::equal(kNativeMarker.begin(), kNativeMarker.end(), content.begin())) {
+    if (content.size() <= kNativeMarker.size() || !BeginsWith(content, kNativeMarker)) {
         error = L"This is not a native encrypted GFE file.";
         return {};
     }

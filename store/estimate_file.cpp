@@ -1,9 +1,8 @@
 #include "store/estimate_file.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 
+#include "legacy/legacy_cipher.h"
 #include "legacy/legacy_file.h"
 #include "model/dates.h"
 #include "model/text.h"
@@ -13,13 +12,6 @@
 
 namespace tessaline {
 namespace {
-
-constexpr std::array<std::uint8_t, 4> kLegacyMarker = {'G', 'F', 'E', '2'};
-
-bool BeginsWith(ByteView content, ByteView marker) {
-    return content.size() >= marker.size() &&
-           std::equal(marker.begin(), marker.end(), content.begin());
-}
 
 void Stamp(Estimate& estimate) {
     if (estimate.EstimateId.empty()) estimate.EstimateId = NewEstimateId();

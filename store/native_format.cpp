@@ -44,7 +44,8 @@ class Writer {
         const std::size_t start = bytes_.size();
         Put(std::uint32_t{0});
         AppendUtf8(bytes_, text);
-        StoreNumber(start, static_cast<std::uint32_t>(bytes_.size() - start - 4));
+        StoreNumber(start,
+                    static_cast<std::uint32_t>(bytes_.size() - start - sizeof(std::uint32_t)));
     }
 
     template <typename Element>
@@ -75,8 +76,8 @@ class Writer {
 };
 
 // Walks the payload. A field that runs past the end or a text that is too long makes the payload
-// damaged, which the end of the walk reports: numbers and counts are read on from where they would
-// stand, so that an impossible count is reported as such.
+// damaged, which the end of the walk reports: numbers and counts are read on from where the cursor
+// stands, so that an impossible count is reported as such.
 class Reader {
   public:
     explicit Reader(ByteView rest) : rest_(rest) {}
@@ -169,7 +170,7 @@ std::size_t RoomFor(const Value& value) {
 }
 
 const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
-    if (payload.size() < kHead || !std::equal(kMagic.begin(), kMagic.end(), payload.begin())) {
+    if (payload.size() < kHead || !BeginsWith(payload, kMagic)) {
         return L"The estimate file is not a native GFE file.";
     }
     Reader reader(payload.subspan(kMagic.size()));
