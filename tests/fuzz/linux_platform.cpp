@@ -13,8 +13,6 @@ namespace {
 
 const std::codecvt_utf8_utf16<wchar_t> conversion;
 
-constexpr wchar_t kReplacement = 0xFFFD;
-
 }  // namespace
 
 void WipeMemory(void* memory, std::size_t size) noexcept {
@@ -25,15 +23,14 @@ void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
     const wchar_t* from = text.data();
     const wchar_t* const end = from + text.size();
     const std::size_t start = bytes.size();
-    bytes.resize(start + Utf8Room(text));
+    bytes.resize(start + 3 * text.size());
     char* const first = reinterpret_cast<char*>(bytes.data());
     char* to = first + start;
     while (from != end) {
         std::mbstate_t state{};
-        if (conversion.out(state, from, end, from, to, first + bytes.size(), to) ==
-            std::codecvt_base::ok)
-            continue;
-        // An unpaired surrogate.
+        // Stops at an unpaired surrogate.
+        conversion.out(state, from, end, from, to, first + bytes.size(), to);
+        if (from == end) break;
         ++from;
         to = std::copy_n("\xEF\xBF\xBD", 3, to);
     }
@@ -47,12 +44,11 @@ std::wstring FromUtf8(ByteView utf8) {
     wchar_t* to = text.data();
     while (from != end) {
         std::mbstate_t state{};
-        if (conversion.in(state, from, end, from, to, text.data() + text.size(), to) ==
-            std::codecvt_base::ok)
-            continue;
-        // Ill-formed bytes, one by one.
+        // Stops at ill-formed bytes, which are replaced one by one.
+        conversion.in(state, from, end, from, to, text.data() + text.size(), to);
+        if (from == end) break;
         ++from;
-        *to++ = kReplacement;
+        *to++ = 0xFFFD;
     }
     text.resize(static_cast<std::size_t>(to - text.data()));
     return text;

@@ -30,12 +30,29 @@ TEST_CASE("A new estimate has an identifier, which is its root, and was made now
     CHECK(estimate.IssuedOn == 0);
 }
 
+// With the order of the fields in the native payloads this ties every field's name to its member.
+TEST_CASE("Fields are described in the order of the record's members") {
+    const auto check = [](const auto& record) {
+        const void* previous = nullptr;
+        ForEachField(record, [&previous](const wchar_t* name, const auto& value) {
+            CAPTURE(name);
+            CHECK(previous < static_cast<const void*>(&value));
+            previous = &value;
+        });
+    };
+    const Estimate estimate;
+    check(estimate);
+    check(estimate.Patient);
+    check(estimate.Provider);
+    check(ServiceLine());
+    check(SeparateItem());
+}
+
 TEST_CASE("The first rule that an estimate breaks is what the user is told") {
     Estimate estimate;
-    const std::function<std::wstring(std::wstring, std::wstring)> set =
-        [&estimate](const std::wstring& path, const std::wstring& text) {
-            REQUIRE(SetValue(estimate, path, text));
-            return ValidateEstimate(estimate);
-        };
+    const auto set = [&estimate](const std::wstring& path, const std::wstring& text) {
+        REQUIRE(SetValue(estimate, path, text));
+        return ValidateEstimate(estimate);
+    };
     CheckRules(L"validation.txt", {{L"set", set}});
 }

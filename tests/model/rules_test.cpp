@@ -2,6 +2,7 @@
 #include <chrono>
 #include <clocale>
 #include <ctime>
+#include <cwchar>
 
 #include "model/dates.h"
 #include "model/estimate.h"
@@ -56,7 +57,7 @@ TEST_CASE("Texts, money, dates and fields follow their rules") {
          {L"CleanFileName", CleanFileName},
          {L"ContainsNoCase", ContainsNoCase},
          {L"JoinName",
-          +[](Text first, Text middle, Text last) {
+          [](Text first, Text middle, Text last) {
               PatientInfo patient;
               patient.FirstName = first;
               patient.MiddleName = middle;
@@ -64,13 +65,13 @@ TEST_CASE("Texts, money, dates and fields follow their rules") {
               return JoinName(patient);
           }},
          {L"JoinAddress", JoinAddress},
-         {L"FormatMoney", +[](Text dollars) { return FormatMoney(std::stod(dollars)); }},
+         {L"FormatMoney", [](Text dollars) { return FormatMoney(std::stod(dollars)); }},
          {L"ParseMoneyText", ParseMoneyText},
          {L"ParseQuantityText", ParseQuantityText},
-         {L"local time", +[](Text time) { return ShowLocal(time, true); }},
-         {L"local date", +[](Text time) { return ShowLocal(time, false); }},
+         {L"local time", [](Text time) { return ShowLocal(time, true); }},
+         {L"local date", [](Text time) { return ShowLocal(time, false); }},
          {L"stamp",
-          +[](Text stamp) {
+          [](Text stamp) {
               const std::int64_t seconds = std::stoll(stamp);
               return FormatTimestamp(seconds, true) + FormatTimestamp(seconds, false);
           }},
@@ -79,9 +80,9 @@ TEST_CASE("Texts, money, dates and fields follow their rules") {
          {L"CheckEmail", CheckEmail},
          {L"CheckNpi", CheckNpi},
          {L"CheckZip", CheckZip},
-         {L"date of birth", +[](Text text) { return CheckDateOfBirth(text, true); }},
-         {L"optional date of birth", +[](Text text) { return CheckDateOfBirth(text, false); }},
-         {L"CodeText", +[](Text type, Text code) {
+         {L"date of birth", [](Text text) { return CheckDateOfBirth(text, true); }},
+         {L"optional date of birth", [](Text text) { return CheckDateOfBirth(text, false); }},
+         {L"CodeText", [](Text type, Text code) {
               ServiceLine line;
               line.ServiceCodeType = type;
               line.ServiceCode = code;

@@ -20,9 +20,7 @@ TEST_CASE("A file is replaced as a whole") {
 TEST_CASE("A file that others have open is read and replaced all the same") {
     const TemporaryStore store;
     store.Put(L"a", Bytes{1});
-    const FileOwner open(CreateFileW(store.Path(L"a").c_str(), GENERIC_READ | GENERIC_WRITE,
-                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    const FileOwner open = store.Lock(L"a", FILE_SHARE_READ | FILE_SHARE_WRITE);
     REQUIRE(open.Get() != INVALID_HANDLE_VALUE);
     CHECK(ReadFileBytes(store.Path(L"a")) == Bytes{1});
     CHECK(store.Put(L"a", Bytes{2}));

@@ -13,23 +13,26 @@ Bytes Text(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-void PutAll(const TemporaryStore& store, const std::wstring& rule) {
-    int count = 0;
-    for (const Estimate& estimate : RecordsOf(L"catalogue.txt", rule)) {
-        store.PutEstimate(std::to_wstring(++count) + L".gfe", estimate);
-    }
-}
-
-// Each summary as "phone, last used, count; ".
+// Each summary as "phone, last used, count;".
 template <typename Summary, typename Block>
 std::wstring List(const std::vector<Summary>& list, Block Summary::*block) {
     std::wstring told;
     for (const Summary& summary : list) {
-        told += (summary.*block).Phone + L", " + Told(summary.LastUsed) + L", " +
-                Told(summary.EstimateCount) + L"; ";
+        told += (told.empty() ? L"" : L" ") + (summary.*block).Phone + L", " +
+                Told(summary.LastUsed) + L", " + Told(summary.EstimateCount) + L";";
     }
     return told;
 }
+
+// A store with the estimates that a rule's rows describe.
+struct FilledStore : TemporaryStore {
+    explicit FilledStore(const std::wstring& rule) {
+        int count = 0;
+        for (const Estimate& estimate : RecordsOf(L"catalogue.txt", rule)) {
+            PutEstimate(std::to_wstring(++count) + L".gfe", estimate);
+        }
+    }
+};
 
 }  // namespace
 
@@ -93,25 +96,15 @@ TEST_CASE("Older files are known by their first four bytes, readable or not") {
     CHECK(HasLegacyFiles(store));
 }
 
-TEST_CASE("Patients are told apart by name and date of birth as typed") {
-    const TemporaryStore store;
-    PutAll(store, L"patient");
-    CHECK(List(BuildPatientList(store), &PatientSummary::Patient) ==
-          L"new, 300, 3; no last, 260, 1; no first, 250, 1; other date, 200, 1; "
-          L"before 1970, -5, 1; ");
-}
-
-TEST_CASE("Providers are told apart by name and NPI, or without one by address") {
-    const TemporaryStore store;
-    PutAll(store, L"provider");
-    CHECK(List(BuildProviderList(store), &ProviderSummary::Provider) ==
-          L"state, 240, 1; city, 230, 1; street, 220, 1; new place, 210, 2; npi, 120, 1; "
-          L"new, 110, 2; ");
-}
-
-TEST_CASE("Estimates of one second are counted, and one of them is shown") {
-    const TemporaryStore store;
-    PutAll(store, L"same second");
-    CHECK(LoadAllEstimates(store).size() == 2);
-    CHECK(List(BuildPatientList(store), &PatientSummary::Patient) == L"same, 0, 2; ");
+TEST_CASE("Patients and providers are told apart, and each is shown as used last") {
+    using Text = const std::wstring&;
+    CheckRules(L"lists.txt",
+               {{L"patients",
+                 [](Text rule) {
+                     return List(BuildPatientList(FilledStore(rule)), &PatientSummary::Patient);
+                 }},
+                {L"providers", [](Text rule) {
+                     return List(BuildProviderList(FilledStore(rule)), &ProviderSummary::Provider);
+                 }}});
+    CHECK(LoadAllEstimates(FilledStore(L"same second")).size() == 2);
 }

@@ -32,20 +32,13 @@ namespace tessaline {
 }
 
 /// The names of the fields in which two records differ, each followed by a blank.
-template <typename Record>
-[[nodiscard]] std::wstring Differences(const Record& left, const Record& right) {
+[[nodiscard]] inline std::wstring Differences(const Estimate& left, const Estimate& right) {
     std::wstring names;
-    std::apply(
-        [&](const auto&... field) {
-            ((names += left.*field.member == right.*field.member
-                           ? std::wstring()
-                           : std::wstring(field.name) + L" "),
-             ...);
-        },
-        FieldsOf(left));
-    if constexpr (requires { left.ReservedFlag; }) {
-        if (left.ReservedFlag != right.ReservedFlag) names += L"ReservedFlag ";
-    }
+    const auto compare = [&](const auto& field) {
+        if (!(left.*field.member == right.*field.member)) names.append(field.name).append(L" ");
+    };
+    std::apply([&](const auto&... field) { (compare(field), ...); }, kEstimateFields);
+    compare(Field{L"ReservedFlag", &Estimate::ReservedFlag});
     return names;
 }
 

@@ -1,8 +1,6 @@
 // Files of the older edition, as it wrote them.
 #pragma once
 
-#include <array>
-#include <charconv>
 #include <ctime>
 #include <string>
 #include <string_view>
@@ -15,9 +13,10 @@
 #include "tests/support/temporary_store.h"
 
 namespace tessaline {
+
 namespace legacy_writer {
 
-inline std::wstring Quoted(const std::wstring& text) {
+inline std::wstring Json(const std::wstring& text) {
     std::wstring json = L"\"";
     for (const wchar_t c : text) {
         if (c == L'"' || c == L'\\') json += L'\\';
@@ -26,7 +25,7 @@ inline std::wstring Quoted(const std::wstring& text) {
     return json + L"\"";
 }
 
-inline std::wstring TimeText(std::int64_t stamp) {
+inline std::wstring Json(std::int64_t stamp) {
     if (stamp <= 0) return L"null";
     std::tm time{};
     _gmtime64_s(&time, &stamp);
@@ -37,22 +36,16 @@ inline std::wstring TimeText(std::int64_t stamp) {
 template <typename Value>
 std::wstring Json(const Value& value) {
     std::wstring json;
-    if constexpr (std::is_same_v<Value, std::wstring>) {
-        return Quoted(value);
-    } else if constexpr (std::is_same_v<Value, bool>) {
+    if constexpr (std::is_same_v<Value, bool>) {
         return value ? L"true" : L"false";
-    } else if constexpr (std::is_same_v<Value, std::int64_t>) {
-        return TimeText(value);
     } else if constexpr (std::is_arithmetic_v<Value>) {
-        std::array<char, 32> digits{};
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-        return {digits.data(), end};
+        return std::to_wstring(value);
     } else if constexpr (requires { value.size(); }) {
         for (const auto& element : value) json += (json.empty() ? L"" : L", ") + Json(element);
         return L"[" + json + L"]";
     } else {
-        ForEachField(value, [&](const wchar_t* name, const auto& field) {
-            json += (json.empty() ? L"" : L", ") + Quoted(name) + L": " + Json(field);
+        ForEachField(value, [&json](const std::wstring& name, const auto& field) {
+            json += (json.empty() ? L"" : L", ") + Json(name) + L": " + Json(field);
         });
         return L"{" + json + L"}";
     }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "platform/utf8.h"
 
@@ -21,23 +22,15 @@ inline doctest::String Readable(std::wstring_view text) {
 
 namespace doctest {
 
-template <>
-struct StringMaker<std::wstring> {
-    static String convert(const std::wstring& text) { return tessaline::Readable(text); }
+template <typename Text>
+requires std::is_convertible_v<const Text&, std::wstring_view>
+struct StringMaker<Text> {
+    static String convert(const Text& text) { return tessaline::Readable(text); }
 };
 
-template <>
-struct StringMaker<std::wstring_view> {
-    static String convert(std::wstring_view text) { return tessaline::Readable(text); }
-};
-
+// For itself, because doctest takes it for any pointer.
 template <>
 struct StringMaker<const wchar_t*> {
-    static String convert(const wchar_t* text) { return tessaline::Readable(text); }
-};
-
-template <std::size_t N>
-struct StringMaker<wchar_t[N]> {
     static String convert(const wchar_t* text) { return tessaline::Readable(text); }
 };
 

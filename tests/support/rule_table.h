@@ -67,11 +67,11 @@ requires std::is_arithmetic_v<Number> std::wstring Told(Number number) {
     return {digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr};
 }
 
-/// A function of a row's cells, without its first and its last one.
+/// A function of texts, called with a row's cells but the first and the last one.
 struct Rule {
-    template <typename Result, typename... Texts>
-    Rule(Result (*function)(Texts...))  // NOLINT(google-explicit-constructor)
-        : Rule(std::function<Result(Texts...)>(function)) {}
+    template <typename Function>
+    Rule(Function function)  // NOLINT(google-explicit-constructor)
+        : Rule(std::function(function)) {}
 
     template <typename Result, typename... Texts>
     Rule(std::function<Result(Texts...)> function)  // NOLINT(google-explicit-constructor)

@@ -9,18 +9,14 @@
 #include <type_traits>
 #include <utility>
 
-extern "C" {
-extern decltype(&BeginPaint) __imp_BeginPaint;
-extern decltype(&EndDoc) __imp_EndDoc;
-extern decltype(&EndPage) __imp_EndPage;
-extern decltype(&FindFirstFileW) __imp_FindFirstFileW;
-extern decltype(&GetDeviceCaps) __imp_GetDeviceCaps;
-extern decltype(&PrintDlgW) __imp_PrintDlgW;
-extern decltype(&StartDocW) __imp_StartDocW;
-extern decltype(&StartPage) __imp_StartPage;
-}
-
 namespace tessaline {
+
+/// What Windows itself has under that name.
+template <typename Function>
+[[nodiscard]] Function OfWindows(const wchar_t* library, const char* name) {
+    return reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(library), name)));
+}
 
 /// Stands in until the end of its scope.
 template <typename Function>
@@ -38,3 +34,20 @@ class StandIn {
 };
 
 }  // namespace tessaline
+
+// clang-format off
+#define POINTER_TO(library, name) \
+    inline decltype(&(name)) __imp_##name = \
+        tessaline::OfWindows<decltype(&(name))>(library, #name)
+// clang-format on
+
+extern "C" {
+POINTER_TO(L"user32", BeginPaint);
+POINTER_TO(L"gdi32", EndDoc);
+POINTER_TO(L"gdi32", EndPage);
+POINTER_TO(L"kernel32", FindFirstFileW);
+POINTER_TO(L"gdi32", GetDeviceCaps);
+POINTER_TO(L"comdlg32", PrintDlgW);
+POINTER_TO(L"gdi32", StartDocW);
+POINTER_TO(L"gdi32", StartPage);
+}

@@ -47,14 +47,10 @@ class TemporaryStore {
         return Put(name, ProtectEstimateData(WriteNativeEstimate(estimate), error));
     }
 
-    /// Keeps a file open so that nobody else can open it.
-    [[nodiscard]] FileOwner Lock(const std::wstring& name) const {
-        return FileOwner(CreateFileW(Path(name).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    }
-
-    [[nodiscard]] bool Has(const std::wstring& name) const {
-        return GetFileAttributesW(Path(name).c_str()) != INVALID_FILE_ATTRIBUTES;
+    /// Keeps a file open, so that nobody else can open it unless it is shared.
+    [[nodiscard]] FileOwner Lock(const std::wstring& name, DWORD share = 0) const {
+        return FileOwner(CreateFileW(Path(name).c_str(), GENERIC_READ | GENERIC_WRITE, share,
+                                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     }
 
   private:

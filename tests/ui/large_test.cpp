@@ -4,30 +4,13 @@
 #include <commctrl.h>
 #include <psapi.h>
 
-#include <chrono>
-
 #include "document/preview.h"
 #include "store/lookup_window.h"
 #include "tests/support/distinct_estimate.h"
-#include "tests/support/readable.h"
 #include "tests/ui/running_program.h"
-#include "tests/ui/told_window.h"
 #include "ui/binding.h"
-#include "ui/form_rows.h"
 
 using namespace tessaline;
-
-namespace {
-
-using Clock = std::chrono::steady_clock;
-
-SIZE_T MemoryInUse() {
-    PROCESS_MEMORY_COUNTERS counters{};
-    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
-    return counters.PagefileUsage;
-}
-
-}  // namespace
 
 TEST_CASE("Among 10,000 estimates a search finds a few, and the one chosen is given back") {
     RunningProgram program(96);
@@ -38,7 +21,7 @@ TEST_CASE("Among 10,000 estimates a search finds a few, and the one chosen is gi
     for (std::size_t i = 0; i < state.estimates.size(); ++i) {
         state.estimates[i].Record.EstimateId = L"GFE-" + std::to_wstring(i);
     }
-    const auto start = Clock::now();
+    const ULONGLONG start = GetTickCount64();
     program.InDialog([&](HWND lookup) {
         CHECK(ListView_GetItemCount(state.list) == 10'000);
         SetWindowTextW(state.searchBox, L"fe-777");
@@ -48,23 +31,29 @@ TEST_CASE("Among 10,000 estimates a search finds a few, and the one chosen is gi
     });
     CHECK(ShowLookup(state, L"Open Saved Estimate") == kLookupChosen);
     CHECK(state.Selected == 7771);
-    CHECK(Clock::now() - start < std::chrono::seconds(20));
+    CHECK(GetTickCount64() - start < 20'000);
 }
 
 TEST_CASE("Texts of a million characters come back from the form, and previews let go of them") {
     RunningProgram program(96);
     Estimate estimate = DistinctEstimate();
-    for (std::wstring* text : {&estimate.Patient.FirstName, &estimate.ProviderNotes}) {
-        text->append(1'000'000, L'x');
-    }
+    estimate.Patient.FirstName.append(1'000'000, L'x');
+    estimate.ProviderNotes.append(1'000'000, L'x');
     BindToForm(estimate);
     ReadForm();
-    CHECK(program.app.currentEstimate.Patient.FirstName == estimate.Patient.FirstName);
-    CHECK(program.app.currentEstimate.ProviderNotes == estimate.ProviderNotes);
-    const SIZE_T before = MemoryInUse();
+    const bool same =
+        program.app.currentEstimate.Patient.FirstName == estimate.Patient.FirstName &&
+        program.app.currentEstimate.ProviderNotes == estimate.ProviderNotes;
+    CHECK(same);
+    const auto memoryInUse = [] {
+        PROCESS_MEMORY_COUNTERS counters{};
+        GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+        return counters.PagefileUsage;
+    };
+    const SIZE_T before = memoryInUse();
     for (int i = 0; i < 10; ++i) {
         ShowPrintPreview(program.app.mainWindow, estimate);
         DestroyWindow(FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr));
     }
-    CHECK(MemoryInUse() < before + 10'000'000);
+    CHECK(memoryInUse() < before + 10'000'000);
 }
