@@ -83,11 +83,3 @@ TEST_CASE("The preview's page keeps its proportions below the buttons") {
         CHECK(transform.scaleY == (page.bottom - page.top) / 1056.0);
     }
 }
-
-TEST_CASE("The printed page fills the printable area less its margins, each axis by itself") {
-    const PageTransform letter = PrintTransform(5100, 6600);
-    CheckSame(PageArea(letter), {204, 231, 4896, 6369});
-    CHECK(letter.scaleX == 5.75);
-    CHECK(letter.scaleY == 5.8125);
-    CheckSame(PageArea(PrintTransform(2549, 3299)), {101, 115, 2448, 3184});
-}
