@@ -100,6 +100,7 @@ void BindToForm(Estimate estimate) {
     SetWindowTextW(app.totalAmount, total.c_str());
     app.invalidControls.clear();
     for (int section = 0; section < kMessageSections; ++section) SetSectionMessage(section, {});
+    RedrawForm();
     // Last, because setting texts has marked the state as modified.
     app.IsModified = false;
     app.SavedStatus.swap(savedStatus);
@@ -129,6 +130,11 @@ void ReadForm() {
 
 std::wstring ControlText(int id) {
     return Trim(WindowText(ControlById(id)));
+}
+
+void RedrawForm() {
+    RedrawWindow(App()->canvasWindow, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void SetSectionMessage(int section, const std::wstring& text) {

@@ -24,6 +24,10 @@ void ReadForm();
 void ChangeLines(Estimate changed);
 void ChangeSeparateItems(Estimate changed);
 
+/// Draws the form anew. Edits take the colour of their marks, and transparent controls (labels,
+/// the edit of the dates while it is disabled) lose the text they had before, only with the whole.
+void RedrawForm();
+
 /// Shows a section's message line with `text`; an empty text hides it.
 void SetSectionMessage(int section, const std::wstring& text);
 

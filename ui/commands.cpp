@@ -37,6 +37,7 @@ void NotYetScheduledChanged() {
     const HWND box = ControlById(kNotYetScheduledCheck);
     const bool checked = SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
     EnableWindow(ControlById(kScheduledDatesEdit), !checked);
+    RedrawForm();
     MarkDirty();
 }
 

@@ -76,9 +76,7 @@ bool Validate(bool forOutput) {
     for (int section = 0; section < kMessageSections; ++section) {
         SetSectionMessage(section, messages[static_cast<std::size_t>(section)]);
     }
-    // Edits take their new colours, and transparent labels lose their old text, only with the
-    // whole.
-    RedrawWindow(app.canvasWindow, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    RedrawForm();
     return app.invalidControls.empty() && messages[kItemsMessage].empty();
 }
 

@@ -330,6 +330,9 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"text", [](Story& s) { CheckText(WindowText(s.target), s.text); }},
     {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
     {L"looks", [](Story& s) { CheckWindow(s.target, s.words, ScreenDpi()); }},
+    {L"drawn", [](Story& s) {
+        RedrawWindow(s.target, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN); }},
+    {L"redraws", [](Story& s) { CHECK(GetUpdateRect(s.target, nullptr, FALSE)); }},
     {L"focus", [](Story& s) { CHECK(GetFocus() == s.target); }},
     {L"enabled", [](Story& s) { CHECK(IsWindowEnabled(s.target)); }},
     {L"disabled", [](Story& s) { CHECK_FALSE(IsWindowEnabled(s.target)); }},
