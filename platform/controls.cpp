@@ -49,9 +49,11 @@ bool IsSameText(std::wstring_view left, std::wstring_view right) noexcept {
 LRESULT CALLBACK PassTabAndEscape(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
                                   UINT_PTR id, DWORD_PTR) {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, PassTabAndEscape, id);
-    const LRESULT answer = DefSubclassProc(edit, message, wParam, lParam);
-    const bool forDialog = message == WM_GETDLGCODE && (wParam == VK_TAB || wParam == VK_ESCAPE);
-    return forDialog ? answer & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB) : answer;
+    if (message != WM_GETDLGCODE) return DefSubclassProc(edit, message, wParam, lParam);
+    // An edit that is asked this itself takes itself for a dialog's, and leaves Enter to a default
+    // button.
+    const bool forDialog = wParam == VK_TAB || wParam == VK_ESCAPE;
+    return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (forDialog ? 0 : DLGC_WANTALLKEYS);
 }
 
 }  // namespace
@@ -72,7 +74,7 @@ void LeaveKeysToDialog(HWND edit) {
 }
 
 HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries) {
-    const HWND choice = MakeControl(parent, id, {box.x, box.y, box.width, kChoiceHeight},
+    const HWND choice = MakeControl(parent, id, box,
                                     {L"ComboBox", L"", WS_TABSTOP | CBS_DROPDOWNLIST,
                                      WS_EX_CLIENTEDGE, CurrentTheme().uiFont.Get()});
     for (const wchar_t* entry : entries) {

@@ -18,7 +18,7 @@ struct Box {
     int height = 0;
 };
 
-/// A combo box's height is that of its opened list.
+/// The height to give a drop-down list: Windows takes it for the opened list.
 inline constexpr int kChoiceHeight = 220;
 
 using Entries = std::span<const wchar_t* const>;
@@ -34,7 +34,7 @@ HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle = 0);
 /// which would otherwise keep them. Enter goes on starting a new line there.
 void LeaveKeysToDialog(HWND edit);
 
-/// A drop-down list with its first entry selected. The box's height is ignored.
+/// A drop-down list with its first entry selected.
 HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries);
 
 /// A push button.
