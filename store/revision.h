@@ -1,4 +1,4 @@
-// How an issued estimate is changed: not at all. A revision follows it.
+// The estimate that follows an issued one when that is edited.
 #pragma once
 
 #include "model/estimate.h"
