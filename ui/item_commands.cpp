@@ -1,6 +1,7 @@
 #include "ui/item_commands.h"
 
 #include <utility>
+#include <vector>
 
 #include "platform/list_view.h"
 #include "platform/message_box.h"
@@ -11,84 +12,89 @@
 namespace tessaline {
 namespace {
 
-// The element of the selected row, or null when no row, or none that the record has, is selected.
+// What sets the commands of one list apart from those of the other.
 template <typename Element>
-Element* SelectedElement(HWND list, std::vector<Element>& elements) {
-    const int index = SelectedRowData(list);
-    const bool known = index >= 0 && static_cast<std::size_t>(index) < elements.size();
-    return known ? &elements[static_cast<std::size_t>(index)] : nullptr;
-}
+struct ItemList {
+    std::vector<Element> Estimate::*elements;
+    HWND AppState::*list;
+    void (*edit)(HWND owner, const Element& element, void (*keep)(const Element&));
+    void (*change)(Estimate changed);
 
-ServiceLine* SelectedLine(Estimate& estimate) {
-    return SelectedElement(App()->linesList, estimate.Lines);
-}
+    // The element of the selected row, or null when no row, or none that the record has, is
+    // selected.
+    Element* Selected(Estimate& estimate) const {
+        const int index = SelectedRowData(App()->*list);
+        const bool known =
+            index >= 0 && static_cast<std::size_t>(index) < (estimate.*elements).size();
+        return known ? &(estimate.*elements)[static_cast<std::size_t>(index)] : nullptr;
+    }
+};
 
-SeparateItem* SelectedSeparateItem(Estimate& estimate) {
-    return SelectedElement(App()->separateList, estimate.SeparateItems);
-}
-
-template <typename Element>
-void Erase(std::vector<Element>& elements, const Element* element) {
-    elements.erase(elements.begin() + (element - elements.data()));
-}
-
-}  // namespace
+constexpr ItemList<ServiceLine> kLines = {&Estimate::Lines, &AppState::linesList, EditServiceLine,
+                                          ChangeLines};
+constexpr ItemList<SeparateItem> kSeparateItems = {
+    &Estimate::SeparateItems, &AppState::separateList, EditSeparateItem, ChangeSeparateItems};
 
 // An automatic save while a dialog or a question is open may replace the whole record by its next
 // revision, so the record is copied, and elements are looked up, only afterwards. The selection
 // cannot change meanwhile.
 
-void AddLine() {
-    EditServiceLine(App()->mainWindow, {}, [](const ServiceLine& line) {
+template <const auto& Items>
+void Add() {
+    Items.edit(App()->mainWindow, {}, [](const auto& element) {
         Estimate changed = App()->currentEstimate;
-        changed.Lines.push_back(line);
-        ChangeLines(std::move(changed));
+        (changed.*Items.elements).push_back(element);
+        Items.change(std::move(changed));
     });
+}
+
+template <const auto& Items>
+void Edit() {
+    const auto* selected = Items.Selected(App()->currentEstimate);
+    if (selected == nullptr) return;
+    Items.edit(App()->mainWindow, *selected, [](const auto& element) {
+        Estimate changed = App()->currentEstimate;
+        if (auto* target = Items.Selected(changed)) *target = element;
+        Items.change(std::move(changed));
+    });
+}
+
+template <const auto& Items>
+void Remove() {
+    Estimate changed = App()->currentEstimate;
+    auto& elements = changed.*Items.elements;
+    const auto* target = Items.Selected(changed);
+    if (target == nullptr) return;
+    elements.erase(elements.begin() + (target - elements.data()));
+    Items.change(std::move(changed));
+}
+
+}  // namespace
+
+void AddLine() {
+    Add<kLines>();
 }
 
 void EditLine() {
-    const ServiceLine* selected = SelectedLine(App()->currentEstimate);
-    if (selected == nullptr) return;
-    EditServiceLine(App()->mainWindow, *selected, [](const ServiceLine& line) {
-        Estimate changed = App()->currentEstimate;
-        if (ServiceLine* target = SelectedLine(changed)) *target = line;
-        ChangeLines(std::move(changed));
-    });
+    Edit<kLines>();
 }
 
 void RemoveLine() {
-    if (SelectedLine(App()->currentEstimate) == nullptr) return;
-    if (!AskYesNo(App()->mainWindow, L"Remove the selected item?", L"Remove")) return;
-    Estimate changed = App()->currentEstimate;
-    if (const ServiceLine* target = SelectedLine(changed)) Erase(changed.Lines, target);
-    ChangeLines(std::move(changed));
+    if (kLines.Selected(App()->currentEstimate) == nullptr) return;
+    if (AskYesNo(App()->mainWindow, L"Remove the selected item?", L"Remove")) Remove<kLines>();
 }
 
 void AddSeparateItem() {
-    EditSeparateItem(App()->mainWindow, {}, [](const SeparateItem& item) {
-        Estimate changed = App()->currentEstimate;
-        changed.SeparateItems.push_back(item);
-        ChangeSeparateItems(std::move(changed));
-    });
+    Add<kSeparateItems>();
 }
 
 void EditSelectedSeparateItem() {
-    const SeparateItem* selected = SelectedSeparateItem(App()->currentEstimate);
-    if (selected == nullptr) return;
-    EditSeparateItem(App()->mainWindow, *selected, [](const SeparateItem& item) {
-        Estimate changed = App()->currentEstimate;
-        if (SeparateItem* target = SelectedSeparateItem(changed)) *target = item;
-        ChangeSeparateItems(std::move(changed));
-    });
+    Edit<kSeparateItems>();
 }
 
-// Removed without a question, unlike an expected item: it carries no charge.
+// Without a question, unlike an expected item; this is wanted.
 void RemoveSeparateItem() {
-    Estimate changed = App()->currentEstimate;
-    const SeparateItem* target = SelectedSeparateItem(changed);
-    if (target == nullptr) return;
-    Erase(changed.SeparateItems, target);
-    ChangeSeparateItems(std::move(changed));
+    Remove<kSeparateItems>();
 }
 
 }  // namespace tessaline
