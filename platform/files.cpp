@@ -11,7 +11,7 @@ namespace {
 constexpr LONGLONG kLargestFile = 256LL * 1024 * 1024;
 
 FileOwner OpenFile(const std::wstring& path, DWORD access, DWORD disposition) {
-    // Nothing is locked against other programs, as with a plain C stream.
+    // Nothing is locked against other programs.
     const HANDLE file =
         CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                     nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);

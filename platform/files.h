@@ -10,7 +10,7 @@
 namespace tessaline {
 
 /// The whole content of a file; empty for a file that is missing, unreadable, empty or larger than
-/// any estimate can be.
+/// 256 MB.
 [[nodiscard]] Bytes ReadFileBytes(const std::wstring& path);
 
 /// Replaces the content of a file, creating it and the folders above it where they are missing.

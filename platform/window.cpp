@@ -65,8 +65,9 @@ bool KeepFocus(HWND window, UINT message, WPARAM wParam) {
         if (IsChild(window, focus)) SetPropW(window, kFocusProperty, focus);
         return false;
     }
+    const bool isMinimized = HIWORD(wParam) != 0;
     const HWND focus = static_cast<HWND>(GetPropW(window, kFocusProperty));
-    if (focus == nullptr || !IsChild(window, focus)) return false;
+    if (isMinimized || focus == nullptr || !IsChild(window, focus)) return false;
     SetFocus(focus);
     return true;
 }

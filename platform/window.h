@@ -28,8 +28,8 @@ void RegisterWindowClass(const WindowClass& windowClass);
 /// window. Size and Z order stay.
 void CentreWindow(HWND window, HWND reference);
 
-/// The state of a window: the creation parameter, remembered with the window's first message. Null
-/// for the messages that come before.
+/// The state of a window: the creation parameter, remembered with WM_NCCREATE. Null for the
+/// messages that come before that one.
 template <typename State>
 [[nodiscard]] State* WindowState(HWND window, UINT message, LPARAM lParam) {
     if (message == WM_NCCREATE) {
@@ -41,7 +41,7 @@ template <typename State>
 }
 
 /// The state of a window that owns it. The creation parameter is the `unique_ptr` that holds the
-/// state so far; from the window's first message on it is the window's, also when its creation
+/// state so far; from WM_NCCREATE on it is the window's, also when its creation
 /// fails later. Give it back with `TakeWindowState`.
 template <typename State>
 [[nodiscard]] State* OwnedWindowState(HWND window, UINT message, LPARAM lParam) {

@@ -60,6 +60,7 @@ bool LoadEstimateFile(const LocalStore& store, const std::wstring& path, Estimat
         case EstimateFileKind::kNative:
             return ReadNativeFile(content, estimate, error);
         case EstimateFileKind::kLegacy:
+            // Reads the file again: they are few, and this spares the mapping a second way in.
             return OpenLegacyEstimateFile(path, store, estimate, error);
         case EstimateFileKind::kUnknown:
             break;

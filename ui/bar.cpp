@@ -46,6 +46,7 @@ void BuildBar(HWND bar) {
     AppState& app = *App();
     for (const ButtonRow& row : BarButtons()) {
         BuildButton(bar, row);
+        // Made here, since Tab and screen readers follow the order of creation.
         if (row.id == kSaveButton) {
             app.statusLine =
                 MakeLabel(bar, L"Draft not saved yet", {14, 59, 250, 18}, theme.smallFont.Get());

@@ -32,24 +32,26 @@ constexpr const wchar_t* kStatusEntries[] = {kStatusDraft, kStatusIssued, kStatu
 
 // clang-format off
 const FieldRow kPatientRows[] = {
-    {1100, kEdit, L"First name *", {28, 68, 275, 17},
+    {kFirstNameEdit, kEdit, L"First name *", {28, 68, 275, 17},
      {28, 86, 275, 25}, Of<&PatientInfo::FirstName>},
     {1101, kEdit, L"Middle name", {316, 68, 275, 17},
      {316, 86, 275, 25}, Of<&PatientInfo::MiddleName>},
-    {1102, kEdit, L"Last name *", {604, 68, 275, 17},
+    {kLastNameEdit, kEdit, L"Last name *", {604, 68, 275, 17},
      {604, 86, 275, 25}, Of<&PatientInfo::LastName>},
-    {1103, kEdit, L"Date of birth *", {28, 116, 275, 17},
+    {kBirthDateEdit, kEdit, L"Date of birth *", {28, 116, 275, 17},
      {28, 134, 275, 25}, Of<&PatientInfo::DateOfBirth>},
     {1104, kEdit, L"Phone", {316, 116, 275, 17}, {316, 134, 275, 25}, Of<&PatientInfo::Phone>},
-    {1105, kEdit, L"Email", {604, 116, 275, 17}, {604, 134, 275, 25}, Of<&PatientInfo::Email>},
+    {kPatientEmailEdit, kEdit, L"Email", {604, 116, 275, 17},
+     {604, 134, 275, 25}, Of<&PatientInfo::Email>},
     {1106, kEdit, L"Street / PO Box", {28, 164, 851, 17},
      {28, 182, 851, 25}, Of<&PatientInfo::Street>},
     {1107, kEdit, L"Apartment / Suite", {28, 212, 275, 17},
      {28, 230, 275, 25}, Of<&PatientInfo::Apartment>},
     {1108, kEdit, L"City", {316, 212, 275, 17}, {316, 230, 275, 25}, Of<&PatientInfo::City>},
     {1109, kEdit, L"State", {604, 212, 275, 17}, {604, 230, 275, 25}, Of<&PatientInfo::State>},
-    {1110, kEdit, L"ZIP", {28, 260, 275, 17}, {28, 278, 275, 25}, Of<&PatientInfo::Zip>},
-    {1111, kEdit, L"Account # (last 4)", {316, 260, 275, 17},
+    {kPatientZipEdit, kEdit, L"ZIP", {28, 260, 275, 17},
+     {28, 278, 275, 25}, Of<&PatientInfo::Zip>},
+    {kAccountEdit, kEdit, L"Account # (last 4)", {316, 260, 275, 17},
      {316, 278, 275, 25}, Of<&PatientInfo::AccountLast4>},
     {1112, kChoice, L"Contact preference", {604, 260, 275, 17},
      {604, 278, 275, kChoiceHeight}, Of<&PatientInfo::ContactPreference>, nullptr,
@@ -57,7 +59,7 @@ const FieldRow kPatientRows[] = {
 };
 
 const FieldRow kProviderRows[] = {
-    {1200, kEdit, L"Organization / provider name *", {28, 400, 560, 17},
+    {kOrganizationEdit, kEdit, L"Organization / provider name *", {28, 400, 560, 17},
      {28, 418, 560, 25}, Of<&ProviderInfo::OrganizationName>},
     {1201, kEdit, L"Provider / facility type", {600, 400, 279, 17},
      {600, 418, 279, 25}, Of<&ProviderInfo::ProviderType>},
@@ -65,12 +67,14 @@ const FieldRow kProviderRows[] = {
      {28, 466, 851, 25}, Of<&ProviderInfo::Street>},
     {1203, kEdit, L"City", {28, 496, 275, 17}, {28, 514, 275, 25}, Of<&ProviderInfo::City>},
     {1204, kEdit, L"State", {316, 496, 275, 17}, {316, 514, 275, 25}, Of<&ProviderInfo::State>},
-    {1205, kEdit, L"ZIP", {604, 496, 275, 17}, {604, 514, 275, 25}, Of<&ProviderInfo::Zip>},
+    {kProviderZipEdit, kEdit, L"ZIP", {604, 496, 275, 17},
+     {604, 514, 275, 25}, Of<&ProviderInfo::Zip>},
     {1206, kEdit, L"Contact person", {28, 544, 275, 17},
      {28, 562, 275, 25}, Of<&ProviderInfo::ContactPerson>},
     {1207, kEdit, L"Phone", {316, 544, 275, 17}, {316, 562, 275, 25}, Of<&ProviderInfo::Phone>},
-    {1208, kEdit, L"Email", {604, 544, 275, 17}, {604, 562, 275, 25}, Of<&ProviderInfo::Email>},
-    {1209, kEdit, L"NPI", {28, 592, 275, 17}, {28, 610, 275, 25}, Of<&ProviderInfo::Npi>},
+    {kProviderEmailEdit, kEdit, L"Email", {604, 544, 275, 17},
+     {604, 562, 275, 25}, Of<&ProviderInfo::Email>},
+    {kNpiEdit, kEdit, L"NPI", {28, 592, 275, 17}, {28, 610, 275, 25}, Of<&ProviderInfo::Npi>},
     {1210, kEdit, L"TIN", {316, 592, 275, 17}, {316, 610, 275, 25}, Of<&ProviderInfo::Tin>},
     {1211, kEdit, L"Website", {604, 592, 275, 17},
      {604, 610, 275, 25}, Of<&ProviderInfo::Website>},
@@ -86,9 +90,9 @@ const FieldRow kContextRows[] = {
 };
 
 const FieldRow kDetailRows[] = {
-    {1400, kEdit, L"Estimate ID", {28, 885, 275, 17},
+    {kEstimateIdEdit, kEdit, L"Estimate ID", {28, 885, 275, 17},
      {28, 903, 275, 25}, Of<&Estimate::EstimateId>},
-    {1401, kEdit, L"Primary service or item *", {316, 885, 563, 17},
+    {kPrimaryServiceEdit, kEdit, L"Primary service or item *", {316, 885, 563, 17},
      {316, 903, 563, 25}, Of<&Estimate::PrimaryService>},
     {1402, kEdit, L"Primary diagnosis", {28, 933, 275, 17},
      {28, 951, 275, 25}, Of<&Estimate::PrimaryDiagnosis>},
@@ -98,18 +102,18 @@ const FieldRow kDetailRows[] = {
      {604, 951, 275, 25}, Of<&Estimate::SecondaryDiagnosis>},
     {1405, kEdit, L"Secondary diagnosis code", {28, 981, 275, 17},
      {28, 999, 275, 25}, Of<&Estimate::SecondaryDiagnosisCode>},
-    {1406, kEdit, L"Scheduled date(s) *", {316, 981, 563, 17},
+    {kScheduledDatesEdit, kEdit, L"Scheduled date(s) *", {316, 981, 563, 17},
      {316, 999, 563, 25}, Of<&Estimate::ScheduledDates>},
-    {1407, kCheck, L"Service/item is not yet scheduled", {},
+    {kNotYetScheduledCheck, kCheck, L"Service/item is not yet scheduled", {},
      {28, 1029, 250, 22}, nullptr, &Estimate::NotYetScheduled},
 };
 
 const FieldRow kNotesRows[] = {
-    {1700, kNotes, L"", {}, {28, 1699, 851, 82}, Of<&Estimate::ProviderNotes>},
+    {kNotesEdit, kNotes, L"", {}, {28, 1699, 851, 82}, Of<&Estimate::ProviderNotes>},
 };
 
 const FieldRow kStatusRow =
-    {1007, kChoice, L"ESTIMATE STATUS", {885, 8, 132, 16},
+    {kStatusChoice, kChoice, L"ESTIMATE STATUS", {885, 8, 132, 16},
      {885, 25, 130, kChoiceHeight}, Of<&Estimate::EstimateStatus>, nullptr, kStatusEntries};
 
 constexpr ListColumn kLineColumns[] = {

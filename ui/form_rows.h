@@ -58,7 +58,7 @@ struct SectionRow {
 /// The eight sections, from top to bottom.
 [[nodiscard]] std::span<const SectionRow> FormSections();
 
-/// The bar's fixed buttons, from left to right.
+/// The bar's buttons, from left to right. Its layout moves the last two.
 [[nodiscard]] std::span<const ButtonRow> BarButtons();
 
 /// The bar's field, the estimate's status. Its label is placed with it.

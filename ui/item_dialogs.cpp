@@ -1,6 +1,8 @@
 #include "ui/item_dialogs.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <span>
 
 #include "model/money.h"
@@ -17,7 +19,6 @@ namespace {
 
 constexpr int kOkButton = 1;  // edits share the buttons' numbers; only buttons send code 0
 constexpr int kCancelButton = 2;
-constexpr int kMostControls = 8;
 
 // One labelled control of a dialog, in pixels at 96 DPI. Its ID is its place in the table, from 1.
 struct DialogField {
@@ -50,6 +51,8 @@ constexpr DialogField kSeparateFields[] = {
      ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL},
 };
 
+constexpr std::size_t kMostFields = std::max(std::size(kLineFields), std::size(kSeparateFields));
+
 // What sets one dialog apart from the other.
 struct DialogKind {
     const wchar_t* className;
@@ -67,7 +70,7 @@ struct DialogState : ModalState {
     const DialogKind* kind = nullptr;
     Row row;
     void (*keep)(const Row&) = nullptr;
-    std::array<HWND, kMostControls> controls{};  // by ID
+    std::array<HWND, kMostFields + 1> controls{};  // by ID
 
     [[nodiscard]] std::wstring Text(int id) const {
         return Trim(WindowText(controls[static_cast<std::size_t>(id)]));

@@ -57,9 +57,7 @@ void BuildMainWindow(HWND window) {
     app.barWindow = MakePart(window, kBarClass, 0, WS_EX_CLIENTEDGE);
     BuildBar(app.barWindow);
     app.scrollWindow = MakePart(window, kScrollClass, WS_CLIPCHILDREN | WS_VSCROLL);
-    app.canvasWindow = CreateWindowExW(0, kCanvasClass, L"", WS_CHILD | WS_VISIBLE, 0, 0,
-                                       Scale(kCanvasWidth), Scale(kCanvasHeight), app.scrollWindow,
-                                       nullptr, ProgramInstance(), nullptr);
+    app.canvasWindow = MakePart(app.scrollWindow, kCanvasClass, 0);
     BuildForm(app.canvasWindow);
     BindToForm(NewEstimate());
     SetTimer(window, kAutoSaveTimer, kAutoSavePeriod, nullptr);
@@ -86,6 +84,7 @@ void LayOutMainWindow(HWND window) {
     SendMessageW(app.scrollWindow, WM_SIZE, 0, 0);
 }
 
+// What comes from the user and from the clock.
 LRESULT RouteMainMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND:
