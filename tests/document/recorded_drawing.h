@@ -113,7 +113,7 @@ class Recording {
                            std::to_wstring(std::lround(-fontHeight * 0.75 / units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
-        if (GetBkMode(dc) != TRANSPARENT) how += L"opaque ";
+        if (GetBkMode(dc) != TRANSPARENT) how += L" opaque";
         if (how == lastText_) {  // the next line of the same text
             lines.back() += (lines.back().ends_with(L' ') ? L"" : L" ") + words;
             return;

@@ -80,7 +80,10 @@ RunningProgram::RunningProgram(int dpi) {
 }
 
 RunningProgram::~RunningProgram() {
-    if (IsWindow(app.mainWindow)) DestroyWindow(app.mainWindow);
+    if (IsWindow(app.mainWindow)) {
+        CHECK(KillTimer(app.mainWindow, 1));  // the automatic save's
+        DestroyWindow(app.mainWindow);
+    }
     Settle();
     // Previews go with their owner.
     CHECK(FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr) == nullptr);
