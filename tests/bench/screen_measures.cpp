@@ -8,14 +8,10 @@
 
 #include "document/estimate_pages.h"
 #include "platform/controls.h"
-#include "platform/files.h"
 #include "platform/handles.h"
 #include "platform/theme.h"
 #include "store/lookup_window.h"
-#include "tests/bench/bare_window.h"
 #include "tests/bench/bench.h"
-#include "ui/app_state.h"
-#include "ui/main_window.h"
 #include "ui/sample_estimate.h"
 #include "ui/window_names.h"
 
@@ -95,62 +91,6 @@ void MeasureDrawing(const char* name, int width, int height, bool print) {
     DeleteEnhMetaFile(recorded);
 }
 
-std::wstring ClassOf(HWND window) {
-    wchar_t name[32];
-    GetClassNameW(window, name, 32);
-    return name;
-}
-
-// The windows below one, parents first, without the header that a list view makes itself.
-void CollectWindows(HWND window, std::vector<HWND>& all) {
-    if (ClassOf(window) == WC_HEADERW) return;
-    all.push_back(window);
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        CollectWindows(child, all);
-    }
-}
-
-BareWindow Describe(HWND window, const std::vector<HWND>& all) {
-    const auto indexOf = [&](auto same) {
-        const auto found = std::find_if(all.begin(), all.end(), same);
-        return found == all.end() ? -1 : static_cast<int>(found - all.begin());
-    };
-    BareWindow row{};
-    const std::wstring name = ClassOf(window);
-    wcscpy(row.className, name.starts_with(L"NORVAK") ? L"BARE" : name.c_str());
-    GetWindowTextW(window, row.text, 128);
-    row.style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
-    row.extendedStyle = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
-    const HWND parent = GetAncestor(window, GA_PARENT);
-    row.parent = indexOf([&](HWND other) { return other == parent; });
-    GetWindowRect(window, &row.box);
-    row.box.right -= row.box.left;
-    row.box.bottom -= row.box.top;
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&row.box), 1);
-    const LRESULT font = SendMessageW(window, WM_GETFONT, 0, 0);
-    row.fontOf = font == 0 ? -1 : indexOf([&](HWND other) {
-        return SendMessageW(other, WM_GETFONT, 0, 0) == font;
-    });
-    GetObjectW(reinterpret_cast<HFONT>(font), sizeof(row.font), &row.font);
-    return row;
-}
-
-// The windows of the real form, for the bare program.
-void DescribeForm(const std::wstring& path) {
-    AppState app;
-    app.store = LocalStoreBelow(path);
-    PublishAppState(&app);
-    const HWND main = CreateMainWindow();
-    std::vector<HWND> windows;
-    CollectWindows(main, windows);
-    std::vector<BareWindow> rows;
-    for (const HWND window : windows) rows.push_back(Describe(window, windows));
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(rows.data());
-    Demand(rows.size() > 100 && WriteFileBytes(path, {bytes, rows.size() * sizeof(BareWindow)}));
-    DestroyWindow(main);
-    PublishAppState(nullptr);
-}
-
 // Milliseconds until a program has painted its window. It answers when it asks for messages, which
 // it does after painting.
 double StartTime(std::wstring commandLine, const wchar_t* windowClass) {
@@ -199,13 +139,10 @@ void MeasurePages(const std::wstring&) {
     MeasureDrawing("both pages at 600 dpi", 4692, 6138, true);
 }
 
-void MeasureStart(const std::wstring& folder) {
-    CreateTheme();
-    const std::wstring form = folder + L"\\form.bin";
-    DescribeForm(form);
+void MeasureStart(const std::wstring&) {
     const std::wstring ours = ProgramFolder() + L"Tessaline.exe";
-    const std::wstring bare = ProgramFolder() + L"bare_windows.exe " + form;
-    const std::vector<double> times = Race(15, {[&] { return StartTime(ours, kMainClass); },
+    const std::wstring bare = ProgramFolder() + L"bare_windows.exe";
+    const std::vector<double> times = Race(21, {[&] { return StartTime(ours, kMainClass); },
                                                 [&] { return StartTime(bare, L"BARE"); }});
     Report("start to a painted form", times[0], times[1], 1.15);
 }

@@ -35,7 +35,7 @@ Estimate SampleWith(std::size_t lines, int number = 0) {
 
 // A store of so many files, made when it is first asked for.
 LocalStore StoreOf(int files, const std::wstring& folder) {
-    const LocalStore store = LocalStoreBelow(folder + L"\\" + std::to_wstring(files));
+    LocalStore store = LocalStoreBelow(folder + L"\\" + std::to_wstring(files));
     const bool isThere =
         GetFileAttributesW(store.EstimatesFolder.c_str()) != INVALID_FILE_ATTRIBUTES;
     Demand(EnsureFolder(store.EstimatesFolder));
@@ -168,10 +168,18 @@ void MeasurePayload(const std::wstring&) {
 }
 
 void MeasureOlderFile(const std::wstring&) {
+    std::wstring document = LR"({"EstimateId": "GFE-20240229-235959", "Lines": [)";
+    for (int line = 0; line < 100; ++line) {
+        document +=
+            LR"({"ServiceItem": "Surgeon's fee, arthroscopy", "Quantity": 2, )"
+            LR"("ServiceAddress": "400 Capitol Avenue", "DiagnosisCode": "S83.242A", )"
+            LR"("ServiceCodeType": "CPT", "ServiceCode": "29882", "ExpectedCharge": 415.5}, )";
+    }
+    document += L"{}]}";
     const TemporaryStore store;
     const std::wstring path = store.Path(L"older.gfe");
     std::wstring error;
-    Demand(PutLegacyFile(store, L"older.gfe", LegacyDocument(SampleWith(100))));
+    Demand(PutLegacyFile(store, L"older.gfe", document));
     const auto open = [&] {
         Estimate estimate;
         Demand(OpenLegacyEstimateFile(path, store, estimate, error));
