@@ -103,7 +103,7 @@ struct Form {
         Estimate other = DistinctEstimate();
         other.LastModifiedOn = 4'000'000'000;
         program.store.PutEstimate(L"full.gfe", other);
-        PutLegacyFile(program.store, L"older.gfe", LegacyDocument(estimate));
+        PutLegacyFile(program.store, L"older.gfe", FromUtf8(TestData(L"legacy-estimate.json")));
         BindToForm(estimate);
         app.CurrentFilePath = program.store.Path(L"GFE-1.gfe");
         for (const HWND list : {app.linesList, app.separateList}) {

@@ -1,6 +1,5 @@
 // The few platform services that the readers need, for the machine of the fuzzers. Texts are code
 // units of UTF-16 here too, each in a wider character.
-#include <algorithm>
 #include <codecvt>
 #include <cstring>
 #include <locale>
@@ -11,7 +10,7 @@
 namespace tessaline {
 namespace {
 
-const std::codecvt_utf8_utf16<wchar_t> conversion;
+using Conversion = std::wstring_convert<std::codecvt_utf8_utf16<wchar_t>>;
 
 }  // namespace
 
@@ -19,39 +18,17 @@ void WipeMemory(void* memory, std::size_t size) noexcept {
     if (memory != nullptr) std::memset(memory, 0, size);
 }
 
+// Windows replaces what is ill-formed piece by piece. Here a text with an unpaired surrogate is
+// one mark, and bytes that are no UTF-8 are widened, so that mutations still reach the readers.
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
-    const wchar_t* from = text.data();
-    const wchar_t* const end = from + text.size();
-    const std::size_t start = bytes.size();
-    bytes.resize(start + 3 * text.size());
-    char* const first = reinterpret_cast<char*>(bytes.data());
-    char* to = first + start;
-    while (from != end) {
-        std::mbstate_t state{};
-        // Stops at an unpaired surrogate.
-        conversion.out(state, from, end, from, to, first + bytes.size(), to);
-        if (from == end) break;
-        ++from;
-        to = std::copy_n("\xEF\xBF\xBD", 3, to);
-    }
-    bytes.resize(static_cast<std::size_t>(to - first));
+    const std::string utf8 = Conversion("?").to_bytes(text.data(), text.data() + text.size());
+    bytes.insert(bytes.end(), utf8.begin(), utf8.end());
 }
 
 std::wstring FromUtf8(ByteView utf8) {
-    const char* from = reinterpret_cast<const char*>(utf8.data());
-    const char* const end = from + utf8.size();
-    std::wstring text(utf8.size(), L'\0');
-    wchar_t* to = text.data();
-    while (from != end) {
-        std::mbstate_t state{};
-        // Stops at ill-formed bytes, which are replaced one by one.
-        conversion.in(state, from, end, from, to, text.data() + text.size(), to);
-        if (from == end) break;
-        ++from;
-        *to++ = 0xFFFD;
-    }
-    text.resize(static_cast<std::size_t>(to - text.data()));
-    return text;
+    const auto* bytes = reinterpret_cast<const char*>(utf8.data());
+    const std::wstring text = Conversion("?", L"?").from_bytes(bytes, bytes + utf8.size());
+    return text == L"?" ? std::wstring(utf8.begin(), utf8.end()) : text;
 }
 
 }  // namespace tessaline
