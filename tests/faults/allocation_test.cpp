@@ -69,7 +69,7 @@ struct Form {
     Form() {
         program.LeaveTo([this](HWND modal) { Answer(modal); });
         // No automatic save may come in between.
-        KillTimer(app.mainWindow, 1);
+        SetTimer(app.mainWindow, 1, USER_TIMER_MAXIMUM, nullptr);
     }
 
     // Presses the first button, in a dialog after filling in what all of them accept.
