@@ -7,6 +7,7 @@
 #include <random>
 #include <vector>
 
+#include "platform/controls.h"
 #include "store/catalogue.h"
 #include "tests/support/distinct_estimate.h"
 #include "tests/support/pretended_printer.h"
@@ -142,7 +143,9 @@ class RandomUser {
             L"", L"Ann", L"  Lee ", L"02/29/1984", L"62701", L"1", L"ann@lee.example", L"$1,234.50",
             L"-3", L"1e308", L"a/b:c|?", L"DEMO-1", L"\u4F60 \U0001F600", L"1\r\n2", many.c_str()};
         // clang-format on
-        SendMessageW(edit, EM_SETSEL, 0, Below(4) == 0 ? 1 : -1);
+        // In front of what is there, or in its place. Half a character would not be saved as it
+        // is.
+        SendMessageW(edit, EM_SETSEL, 0, Below(4) == 0 ? 0 : -1);
         const wchar_t* text = texts[random_() % std::size(texts)];
         SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
     }
@@ -181,7 +184,10 @@ TEST_CASE("Whatever a user does, the program goes on, loses nothing and leaks no
         CAPTURE(user.actions);
         REQUIRE(program.Settle() == -1);
         CHECK(IsWindowEnabled(main));
-        if (writes > 0) program.CheckFile(), ++saves;
+        // Open shows what its list was made of, also when an automatic save came in between.
+        if (writes == 0 || WindowText(program.app.statusLine) == L"Estimate opened") continue;
+        program.CheckFile();
+        ++saves;
     }
     while (const HWND preview = FindWindowW(L"GFE_Native_Preview", nullptr))
         DestroyWindow(preview);
