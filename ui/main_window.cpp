@@ -50,20 +50,6 @@ HWND MakePart(HWND parent, const wchar_t* className, DWORD style, DWORD extended
                            0, parent, nullptr, ProgramInstance(), nullptr);
 }
 
-void BuildMainWindow(HWND window) {
-    AppState& app = *App();
-    app.mainWindow = window;
-    app.headerWindow = MakePart(window, kHeaderClass, 0);
-    app.barWindow = MakePart(window, kBarClass, 0, WS_EX_CLIENTEDGE);
-    BuildBar(app.barWindow);
-    app.scrollWindow = MakePart(window, kScrollClass, WS_CLIPCHILDREN | WS_VSCROLL);
-    app.canvasWindow = MakePart(app.scrollWindow, kCanvasClass, 0);
-    BuildForm(app.canvasWindow);
-    BindToForm(NewEstimate());
-    SetTimer(window, kAutoSaveTimer, kAutoSavePeriod, nullptr);
-    InvalidateRect(app.headerWindow, nullptr, TRUE);
-}
-
 void LayOutMainWindow(HWND window) {
     const AppState& app = *App();
     RECT client{};
@@ -82,6 +68,22 @@ void LayOutMainWindow(HWND window) {
                client.bottom - gaps - bar - header, TRUE);
     // Windows sends WM_SIZE only when the size changed; the scroll range depends on more.
     SendMessageW(app.scrollWindow, WM_SIZE, 0, 0);
+}
+
+void BuildMainWindow(HWND window) {
+    AppState& app = *App();
+    app.mainWindow = window;
+    app.headerWindow = MakePart(window, kHeaderClass, 0);
+    app.barWindow = MakePart(window, kBarClass, 0, WS_EX_CLIENTEDGE);
+    BuildBar(app.barWindow);
+    app.scrollWindow = MakePart(window, kScrollClass, WS_CLIPCHILDREN | WS_VSCROLL);
+    app.canvasWindow = MakePart(app.scrollWindow, kCanvasClass, 0);
+    BuildForm(app.canvasWindow);
+    BindToForm(NewEstimate());
+    // Also now, while nothing is shown yet: moving the parts then draws nothing.
+    LayOutMainWindow(window);
+    SetTimer(window, kAutoSaveTimer, kAutoSavePeriod, nullptr);
+    InvalidateRect(app.headerWindow, nullptr, TRUE);
 }
 
 // What comes from the user and from the clock.
