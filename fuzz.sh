@@ -15,9 +15,8 @@ cmake --build build/fuzz
 
 # Seeds are the tests' own data; what is found while running is kept apart from them.
 seeds=build/fuzz/seeds
-mkdir -p $seeds/{native,json,legacy,rules}
+mkdir -p $seeds/{native,legacy,rules}
 cp tests/data/payload-*.bin $seeds/native
-cp tests/data/legacy-estimate.json $seeds/json
 cp tests/data/legacy-estimate.json $seeds/legacy
 n=0
 while IFS= read -r text; do printf '%s' "$text" >"$seeds/rules/$((n += 1))"; done <<'TEXTS'
@@ -30,7 +29,7 @@ ann.lee@example.com
 CON: a/b\c|"?"
 TEXTS
 
-for target in native json legacy rules; do
+for target in native legacy rules; do
   mkdir -p build/fuzz/found/$target
   echo "== $target"
   build/fuzz/fuzz_$target "${limit[@]}" -print_final_stats=1 -artifact_prefix=build/fuzz/crash-$target- \

@@ -10,7 +10,6 @@
 #include "tests/document/recorded_drawing.h"
 #include "tests/support/readable.h"
 #include "tests/support/stand_in.h"
-#include "tests/support/test_data.h"
 
 using namespace tessaline;
 

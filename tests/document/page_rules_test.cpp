@@ -6,7 +6,6 @@
 #include "document/page_transform.h"
 #include "model/estimate_fields.h"
 #include "tests/support/readable.h"
-#include "tests/support/test_data.h"
 
 using namespace tessaline;
 

@@ -9,11 +9,10 @@
 
 #include "platform/controls.h"
 #include "store/catalogue.h"
-#include "tests/support/distinct_estimate.h"
-#include "tests/support/failing_memory.h"
 #include "tests/support/legacy_writer.h"
-#include "tests/support/pretended_printer.h"
 #include "tests/support/readable.h"
+#include "tests/support/record_values.h"
+#include "tests/support/stand_in.h"
 #include "tests/ui/running_program.h"
 #include "tests/ui/told_window.h"
 #include "ui/binding.h"
@@ -76,7 +75,7 @@ struct Form {
     void Answer(HWND modal) {
         HWND first = FindWindowExW(modal, nullptr, L"Button", nullptr);
         if (IsBox(modal)) {
-            const SoundMemory sound;
+            const StandIn sound(allocationsLeft, 0);
             boxes += DescribeBox(modal, L"", first) ==
                      L"x Good Faith Estimate: There is not enough memory to do this. What you "
                      L"entered is kept. Close other programs and try again. [OK]";

@@ -5,8 +5,8 @@
 
 #include "platform/files.h"
 #include "store/estimate_file.h"
-#include "tests/support/distinct_estimate.h"
 #include "tests/support/readable.h"
+#include "tests/support/record_values.h"
 
 using namespace tessaline;
 

@@ -1,4 +1,5 @@
-// Any decrypted text of an older file: what maps to a record survives the native format.
+// Any decrypted text of an older file: the JSON reader ends inside it, what it read can be copied
+// and freed, and what maps to a record survives the native format.
 #include <cstdlib>
 
 #include "legacy/legacy_mapping.h"
@@ -12,7 +13,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     JsonCursor cursor{text};
     JsonValue root;
     Estimate estimate;
-    if (!ParseValue(cursor, root) || !MapLegacyEstimate(root, estimate)) return 0;
+    const bool parsed = ParseValue(cursor, root);
+    const JsonValue copy = root;
+    if (cursor.position > text.size() || copy.Kind() != root.Kind()) std::abort();
+    if (!parsed || !MapLegacyEstimate(copy, estimate)) return 0;
     if (estimate.EstimateId.empty() || estimate.CreatedOn < 0) std::abort();
     const SecretBytes written = WriteNativeEstimate(estimate);
     Estimate again;

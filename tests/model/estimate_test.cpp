@@ -1,7 +1,5 @@
 #include "model/estimate.h"
 
-#include "model/dates.h"
-#include "model/new_estimate.h"
 #include "model/validation.h"
 #include "tests/support/record_values.h"
 
@@ -9,25 +7,8 @@ using namespace tessaline;
 
 TEST_CASE("The total is the sum of quantity times charge, unrounded") {
     Estimate estimate;
-    CHECK(TotalExpectedCharge(estimate) == 0.0);
     estimate.Lines = {{L"", L"", L"", L"", L"", 2, 10.25}, {L"", L"", L"", L"", L"", -1, 5.001}};
     CHECK(TotalExpectedCharge(estimate) == 20.5 - 5.001);
-}
-
-TEST_CASE("A new line is one CPT code without a charge") {
-    CHECK((ServiceLine() == ServiceLine{L"", L"", L"", L"CPT", L"", 1, 0.0}));
-}
-
-TEST_CASE("A new estimate has an identifier, which is its root, and was made now") {
-    const std::int64_t before = NowSeconds();
-    const Estimate estimate = NewEstimate();
-    CHECK(estimate.EstimateId.size() == 19);
-    CHECK(estimate.RootEstimateId == estimate.EstimateId);
-    CHECK(estimate.ParentEstimateId.empty());
-    CHECK(estimate.CreatedOn >= before);
-    CHECK(estimate.CreatedOn <= NowSeconds());
-    CHECK(estimate.LastModifiedOn == estimate.CreatedOn);
-    CHECK(estimate.IssuedOn == 0);
 }
 
 // With the order of the fields in the native payloads this ties every field's name to its member.

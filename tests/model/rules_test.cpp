@@ -7,6 +7,7 @@
 #include "model/dates.h"
 #include "model/estimate.h"
 #include "model/money.h"
+#include "model/new_estimate.h"
 #include "model/text.h"
 #include "model/validation.h"
 #include "tests/support/rule_table.h"
@@ -102,14 +103,16 @@ TEST_CASE("Amounts have a full stop whatever the locale of the process") {
     std::setlocale(LC_NUMERIC, "C");
 }
 
-TEST_CASE("A new identifier is the current second of local time") {
+TEST_CASE("A new estimate, its own root, is named and stamped by the current second") {
     const std::int64_t before = NowSeconds();
-    const std::wstring id = NewEstimateId();
-    CHECK(id.size() == 19);
-    const std::int64_t stamp = LocalStamp(id, L"GFE-%4d%2d%2d-%2d%2d%2d");
-    CHECK(stamp >= before);
-    CHECK(stamp <= NowSeconds());
+    const Estimate estimate = NewEstimate();
     CHECK(std::abs(before - std::time(nullptr)) < 5);
+    CHECK(estimate.EstimateId.size() == 19);
+    const std::int64_t stamp = LocalStamp(estimate.EstimateId, L"GFE-%4d%2d%2d-%2d%2d%2d");
+    CHECK((before <= stamp && stamp <= NowSeconds()));
+    CHECK((before <= estimate.CreatedOn && estimate.CreatedOn <= NowSeconds()));
+    CHECK(estimate.LastModifiedOn == estimate.CreatedOn);
+    CHECK(estimate.RootEstimateId == estimate.EstimateId);
 }
 
 TEST_CASE("A date of birth may be today, and no later") {

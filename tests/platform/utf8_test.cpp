@@ -1,29 +1,23 @@
 #include "platform/utf8.h"
 
-#include <string_view>
-
 #include "tests/support/readable.h"
 
 using namespace tessaline;
 
 TEST_CASE("Texts become UTF-8 and come back") {
-    struct Row {
-        std::wstring_view text;
-        std::string_view utf8;
-    };
     using namespace std::literals;
-    const Row rows[] = {
+    const std::pair<std::wstring_view, std::string_view> rows[] = {
         {L"", ""},
         {L"a\0~\x7F"sv, "a\0~\x7F"sv},
         {L"\u0080\u00E9\u07FF", "\xC2\x80\xC3\xA9\xDF\xBF"},
         {L"x\u0800\u2014\uFFFF", "x\xE0\xA0\x80\xE2\x80\x94\xEF\xBF\xBF"},
         {L"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [text, utf8] : rows) {
         SecretBytes bytes{'>'};
-        AppendUtf8(bytes, row.text);
-        CHECK(std::string(bytes.begin(), bytes.end()) == ">" + std::string(row.utf8));
-        CHECK(FromUtf8(ByteView(bytes).subspan(1)) == row.text);
+        AppendUtf8(bytes, text);
+        CHECK(std::string(bytes.begin(), bytes.end()) == ">" + std::string(utf8));
+        CHECK(FromUtf8(ByteView(bytes).subspan(1)) == text);
     }
 }
 

@@ -1,9 +1,8 @@
 #include "store/native_format.h"
 
-#include <array>
 #include <map>
 
-#include "tests/support/distinct_estimate.h"
+#include "tests/support/record_values.h"
 
 using namespace tessaline;
 
@@ -22,7 +21,7 @@ Bytes Plain(const SecretBytes& payload) {
 
 // The record in tests/data/payload-full.bin.
 Estimate FullEstimate() {
-    Estimate estimate = RecordOf(L"record.txt", {L"full", L"native"});
+    Estimate estimate = FullRecord(L"native");
     estimate.ReservedFlag = true;
     return estimate;
 }
@@ -30,13 +29,13 @@ Estimate FullEstimate() {
 }  // namespace
 
 TEST_CASE("Payloads are those that another program makes of the same records") {
-    CHECK(Plain(WriteNativeEstimate(Estimate())) == TestData(L"payload-blank.bin"));
-    CHECK(Plain(WriteNativeEstimate(FullEstimate())) == TestData(L"payload-full.bin"));
-    for (const wchar_t* name : {L"payload-blank.bin", L"payload-full.bin"}) {
-        Estimate estimate = DistinctEstimate();
+    for (const auto& [name, record] :
+         {std::pair(L"payload-blank.bin", Estimate()), {L"payload-full.bin", FullEstimate()}}) {
+        CHECK(Plain(WriteNativeEstimate(record)) == TestData(name));
+        Estimate read = DistinctEstimate();
         std::wstring error;
-        REQUIRE(ReadNativeEstimate(TestData(name), estimate, error));
-        CHECK(Plain(WriteNativeEstimate(estimate)) == TestData(name));
+        REQUIRE(ReadNativeEstimate(TestData(name), read, error));
+        CHECK(Differences(read, record) == L"");
     }
 }
 
@@ -58,13 +57,13 @@ TEST_CASE("A payload cut at any length is refused, and a change of any byte is n
 }
 
 TEST_CASE("What follows the record is ignored, and any byte but 0 is true") {
-    Bytes payload = TestData(L"payload-full.bin");
+    Bytes payload = TestData(L"payload-blank.bin");
     payload.back() = 2;
-    payload.insert(payload.end(), 10, 0);
+    payload.push_back(0);
     Estimate estimate;
     std::wstring error;
     REQUIRE(ReadNativeEstimate(payload, estimate, error));
-    CHECK(Differences(estimate, FullEstimate()) == L"");
+    CHECK(Differences(estimate, Estimate()) == L"ReservedFlag ");
 }
 
 TEST_CASE("Lists of a thousand are read, longer ones are written all the same") {
@@ -82,15 +81,12 @@ TEST_CASE("Lists of a thousand are read, longer ones are written all the same") 
 }
 
 TEST_CASE("A text of sixteen mebibytes is read, a longer one is damage") {
-    constexpr wchar_t kDamaged[] = L"The estimate file is incomplete or damaged.";
-    // The default record, with its first text, at 8, replaced.
-    const auto withText = [](std::array<std::uint8_t, 4> size, std::size_t bytes) {
-        Bytes payload = TestData(L"payload-blank.bin");
-        std::copy(size.begin(), size.end(), payload.begin() + 8);
-        payload.insert(payload.begin() + 12, bytes, 0);
-        return payload;
-    };
-    CHECK(Verdict(withText({0, 0, 0, 1}, 0x1000000)) == L"");
-    CHECK(Verdict(withText({1, 0, 0, 1}, 0x1000001)) == kDamaged);
-    CHECK(Verdict(withText({0xFF, 0xFF, 0xFF, 0xFF}, 0)) == kDamaged);
+    Bytes payload = TestData(L"payload-blank.bin");
+    // The first text, whose size stands at 8.
+    payload[11] = 1;
+    payload.insert(payload.begin() + 12, 0x1000000, 0);
+    CHECK(Verdict(payload) == L"");
+    payload[8] = 1;
+    payload.insert(payload.begin() + 12, 0);
+    CHECK(Verdict(payload) == L"The estimate file is incomplete or damaged.");
 }

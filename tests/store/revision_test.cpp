@@ -2,7 +2,7 @@
 
 #include "model/dates.h"
 #include "model/text.h"
-#include "tests/support/distinct_estimate.h"
+#include "tests/support/record_values.h"
 #include "tests/support/temporary_store.h"
 
 using namespace tessaline;
@@ -51,5 +51,5 @@ TEST_CASE("A revision is a fresh draft with everything else kept, and is not sav
     CHECK(revision.CancelledOn == 0);
     CHECK(revision.EstimateStatus == L"Draft");
     CHECK_FALSE(revision.ReservedFlag);
-    CHECK(std::filesystem::is_empty(store->EstimatesFolder));
+    CHECK(std::filesystem::is_empty(store.EstimatesFolder));
 }

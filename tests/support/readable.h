@@ -1,37 +1,42 @@
-// doctest, with the record's texts readable in its messages. Tests include this instead of
-// doctest.
+// What every test stands on: doctest, with the record's texts readable in its messages, and the
+// files in tests/data. Tests include this instead of doctest.
 #pragma once
 
 #include <doctest/doctest.h>
+#include <test_data_folder.h>
 
 #include <string>
 #include <string_view>
 #include <type_traits>
 
+#include "platform/files.h"
 #include "platform/utf8.h"
-
-namespace tessaline {
-
-inline doctest::String Readable(std::wstring_view text) {
-    SecretBytes utf8;
-    AppendUtf8(utf8, text);
-    return doctest::String(std::string(utf8.begin(), utf8.end()).c_str());
-}
-
-}  // namespace tessaline
 
 namespace doctest {
 
 template <typename Text>
 requires std::is_convertible_v<const Text&, std::wstring_view>
 struct StringMaker<Text> {
-    static String convert(const Text& text) { return tessaline::Readable(text); }
+    static String convert(std::wstring_view text) {
+        tessaline::SecretBytes utf8;
+        tessaline::AppendUtf8(utf8, text);
+        return std::string(utf8.begin(), utf8.end()).c_str();
+    }
 };
 
 // For itself, because doctest takes it for any pointer.
 template <>
-struct StringMaker<const wchar_t*> {
-    static String convert(const wchar_t* text) { return tessaline::Readable(text); }
-};
+struct StringMaker<const wchar_t*> : StringMaker<std::wstring_view> {};
 
 }  // namespace doctest
+
+namespace tessaline {
+
+/// The content of a file in tests/data. The test ends when there is none.
+[[nodiscard]] inline Bytes TestData(const std::wstring& name) {
+    Bytes bytes = ReadFileBytes(std::wstring(kTestDataFolder) + L"/" + name);
+    REQUIRE_FALSE(bytes.empty());
+    return bytes;
+}
+
+}  // namespace tessaline

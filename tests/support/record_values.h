@@ -1,11 +1,8 @@
-// The record's values by name: walked, set from texts, read from tables.
+// The record's values by name: walked, set from texts, read from tables, made all different.
 #pragma once
 
-#include <initializer_list>
 #include <string>
-#include <string_view>
 #include <type_traits>
-#include <vector>
 
 #include "model/estimate_fields.h"
 #include "tests/support/rule_table.h"
@@ -49,36 +46,49 @@ bool SetValue(Value& value, const std::wstring& path, const std::wstring& text) 
     return true;
 }
 
-/// The record that the rows of these rules describe, each a path and a value.
-inline Estimate RecordOf(const std::wstring& file, const std::set<std::wstring>& rules) {
+/// The record that payload-full.bin ("native") or legacy-estimate.gfe ("legacy") holds.
+inline Estimate FullRecord(const std::wstring& edition) {
     Estimate estimate;
-    for (const RuleRow& row : RowsOf(file)) {
-        if (!rules.contains(row.cells[0])) continue;
+    for (const RuleRow& row : RowsOf(L"record.txt")) {
         CAPTURE(row.place);
+        if (row.cells[0] != L"full" && row.cells[0] != edition) continue;
         REQUIRE(SetValue(estimate, row.cells.at(1), row.cells.at(2)));
     }
     return estimate;
 }
 
-/// The records that the rows of a rule describe, whose first row has the paths of its columns.
-inline std::vector<Estimate> RecordsOf(const std::wstring& file, const std::wstring& rule) {
-    std::vector<Estimate> estimates;
-    RowCells paths;
-    for (const RuleRow& row : RowsOf(file)) {
-        if (row.cells[0] != rule) continue;
-        CAPTURE(row.place);
-        if (paths.empty()) {
-            paths = row.cells;
-            continue;
+/// A record in which every field has a value of its own, so that one that is forgotten, or taken
+/// for another, shows. Texts are the field's name and a number, numbers are numbers, flags are
+/// true and lists hold two elements; the numbers start at `seed`. Seeds that are 100 apart give
+/// records without a common value.
+[[nodiscard]] inline Estimate DistinctEstimate(int seed = 100) {
+    Estimate estimate;
+    estimate.Lines.resize(2);
+    estimate.SeparateItems.resize(2);
+    ForEachValue(L"", estimate, [&seed](const std::wstring& name, auto& value) {
+        using Value = std::remove_reference_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, std::wstring>) {
+            value = name + L" " + std::to_wstring(seed++);
+        } else if constexpr (std::is_same_v<Value, bool>) {
+            value = true;
+        } else {
+            value = static_cast<Value>(seed++);
+            if constexpr (std::is_floating_point_v<Value>) value += 0.1;
         }
-        REQUIRE(row.cells.size() == paths.size());
-        Estimate& estimate = estimates.emplace_back();
-        for (std::size_t at = 1; at < paths.size(); ++at) {
-            REQUIRE(SetValue(estimate, paths[at], row.cells[at]));
-        }
-    }
-    REQUIRE_FALSE(estimates.empty());
-    return estimates;
+    });
+    estimate.ReservedFlag = true;
+    return estimate;
+}
+
+/// The names of the fields in which two records differ, each followed by a blank.
+[[nodiscard]] inline std::wstring Differences(const Estimate& left, const Estimate& right) {
+    std::wstring names;
+    const auto compare = [&](const auto& field) {
+        if (!(left.*field.member == right.*field.member)) names.append(field.name).append(L" ");
+    };
+    std::apply([&](const auto&... field) { (compare(field), ...); }, kEstimateFields);
+    compare(Field{L"ReservedFlag", &Estimate::ReservedFlag});
+    return names;
 }
 
 }  // namespace tessaline

@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "tests/support/readable.h"
-#include "tests/support/test_data.h"
 
 namespace tessaline {
 

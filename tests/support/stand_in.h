@@ -1,5 +1,5 @@
-// Functions of Windows in whose place a test puts its own for a while. The program calls them
-// through pointers that its import libraries would define; the test program defines them itself.
+// What a test puts in the place of something else: functions of Windows, which the program calls
+// through the pointers of its import libraries, a printer, and memory that runs out.
 #pragma once
 
 #include <windows.h>
@@ -9,45 +9,55 @@
 #include <type_traits>
 #include <utility>
 
+extern "C" {
+extern decltype(&AbortDoc) __imp_AbortDoc;
+extern decltype(&BeginPaint) __imp_BeginPaint;
+extern decltype(&EndDoc) __imp_EndDoc;
+extern decltype(&EndPage) __imp_EndPage;
+extern decltype(&FindFirstFileW) __imp_FindFirstFileW;
+extern decltype(&GetDeviceCaps) __imp_GetDeviceCaps;
+extern decltype(&PrintDlgW) __imp_PrintDlgW;
+extern decltype(&StartDocW) __imp_StartDocW;
+extern decltype(&StartPage) __imp_StartPage;
+}
+
 namespace tessaline {
 
-/// What Windows itself has under that name.
-template <typename Function>
-[[nodiscard]] Function OfWindows(const wchar_t* library, const char* name) {
-    return reinterpret_cast<Function>(
-        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(library), name)));
-}
-
 /// Stands in until the end of its scope.
-template <typename Function>
+template <typename Value>
 class StandIn {
   public:
-    StandIn(Function& pointer, std::type_identity_t<Function> own)
-        : pointer_(pointer), before_(std::exchange(pointer, own)) {}
+    StandIn(Value& place, std::type_identity_t<Value> own)
+        : place_(place), before_(std::exchange(place, own)) {}
     StandIn(const StandIn&) = delete;
     StandIn& operator=(const StandIn&) = delete;
-    ~StandIn() { pointer_ = before_; }
+    ~StandIn() { place_ = before_; }
 
   private:
-    Function& pointer_;
-    Function before_;
+    Value& place_;
+    Value before_;
 };
 
-}  // namespace tessaline
+/// When this reaches 0, that allocation fails (see the operator new of allocation_test.cpp). At 0,
+/// nothing counts and nothing fails; a 0 that stands in is for a test's own allocations.
+inline long long allocationsLeft = 0;
 
-// clang-format off
-#define POINTER_TO(library, name) \
-    inline decltype(&(name)) __imp_##name = \
-        tessaline::OfWindows<decltype(&(name))>(library, #name)
-// clang-format on
+struct PrintJobs {
+    int begun, ended, aborted;
+};
+inline PrintJobs printJobs{};
 
-extern "C" {
-POINTER_TO(L"user32", BeginPaint);
-POINTER_TO(L"gdi32", EndDoc);
-POINTER_TO(L"gdi32", EndPage);
-POINTER_TO(L"kernel32", FindFirstFileW);
-POINTER_TO(L"gdi32", GetDeviceCaps);
-POINTER_TO(L"comdlg32", PrintDlgW);
-POINTER_TO(L"gdi32", StartDocW);
-POINTER_TO(L"gdi32", StartPage);
+/// From now on the print dialog is confirmed at once, and a printer without a spooler takes every
+/// job and prints nothing.
+inline void PretendPrinter() {
+    __imp_PrintDlgW = [](PRINTDLGW* dialog) {
+        dialog->hDC = CreateCompatibleDC(nullptr);
+        return TRUE;
+    };
+    __imp_StartDocW = [](HDC, const DOCINFOW*) { return ++printJobs.begun; };
+    __imp_StartPage = __imp_EndPage = [](HDC) { return 1; };
+    __imp_EndDoc = [](HDC) { return ++printJobs.ended; };
+    __imp_AbortDoc = [](HDC) { return ++printJobs.aborted; };
 }
+
+}  // namespace tessaline

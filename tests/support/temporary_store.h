@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-#include <array>
 #include <filesystem>
 #include <string>
 
@@ -16,24 +15,25 @@
 
 namespace tessaline {
 
-class TemporaryStore {
+class TemporaryStore : public LocalStore {
   public:
-    TemporaryStore() : store_(LocalStoreBelow(FreshFolder())) {
-        EnsureFolder(store_.EstimatesFolder);
+    TemporaryStore() {
+        static int count = 0;
+        folder_ = std::filesystem::temp_directory_path() /
+                  (L"tessaline-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                   std::to_wstring(++count));
+        // A run with the same process id that was ended early may have left its folder.
+        Remove();
+        LocalStore::operator=(LocalStoreBelow(folder_.wstring()));
+        EnsureFolder(EstimatesFolder);
     }
     TemporaryStore(const TemporaryStore&) = delete;
     TemporaryStore& operator=(const TemporaryStore&) = delete;
-    ~TemporaryStore() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-
-    operator const LocalStore&() const { return store_; }  // NOLINT(google-explicit-constructor)
-    const LocalStore* operator->() const { return &store_; }
+    ~TemporaryStore() { Remove(); }
 
     /// The path of a file in the estimates folder.
     [[nodiscard]] std::wstring Path(const std::wstring& name) const {
-        return store_.EstimatesFolder + L"\\" + name;
+        return EstimatesFolder + L"\\" + name;
     }
 
     /// Writes a file into the estimates folder.
@@ -54,20 +54,12 @@ class TemporaryStore {
     }
 
   private:
-    const std::wstring& FreshFolder() {
-        std::array<wchar_t, MAX_PATH + 1> temporary{};
-        GetTempPathW(static_cast<DWORD>(temporary.size()), temporary.data());
-        static int count = 0;
-        folder_ = temporary.data() + (L"tessaline-" + std::to_wstring(GetCurrentProcessId()) +
-                                      L"-" + std::to_wstring(++count));
-        // A run with the same process id that was ended early may have left its folder.
+    void Remove() const {
         std::error_code ignored;
         std::filesystem::remove_all(folder_, ignored);
-        return folder_;
     }
 
-    std::wstring folder_;
-    LocalStore store_;
+    std::filesystem::path folder_;
 };
 
 }  // namespace tessaline

@@ -6,7 +6,7 @@
 
 #include "document/preview.h"
 #include "store/lookup_window.h"
-#include "tests/support/distinct_estimate.h"
+#include "tests/support/record_values.h"
 #include "tests/ui/running_program.h"
 #include "ui/binding.h"
 

@@ -9,9 +9,9 @@
 
 #include "platform/controls.h"
 #include "store/catalogue.h"
-#include "tests/support/distinct_estimate.h"
-#include "tests/support/pretended_printer.h"
 #include "tests/support/readable.h"
+#include "tests/support/record_values.h"
+#include "tests/support/stand_in.h"
 #include "tests/ui/running_program.h"
 #include "tests/ui/told_window.h"
 #include "ui/control_ids.h"
@@ -198,7 +198,7 @@ TEST_CASE("Whatever a user does, the program goes on, loses nothing and leaks no
     CHECK(printJobs.begun == printJobs.ended);
     CHECK((saves > 0 && printJobs.ended > 0));
     int files = 0;
-    ForEachFile(program.store->EstimatesFolder, L"*", [&](const auto&) { return ++files > 0; });
+    ForEachFile(program.store.EstimatesFolder, L"*", [&](const auto&) { return ++files > 0; });
     CHECK(int(LoadAllEstimates(program.store).size()) == files);
     std::printf("%u actions, %d saves, %d files, %d print jobs\n", user.actions, saves, files,
                 printJobs.ended);

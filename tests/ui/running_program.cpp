@@ -6,9 +6,9 @@
 #include "platform/scale.h"
 #include "platform/theme.h"
 #include "store/estimate_file.h"
-#include "tests/support/distinct_estimate.h"
-#include "tests/support/failing_memory.h"
 #include "tests/support/readable.h"
+#include "tests/support/record_values.h"
+#include "tests/support/stand_in.h"
 #include "tests/ui/told_window.h"
 #include "ui/main_window.h"
 
@@ -19,7 +19,7 @@ RunningProgram* running = nullptr;
 
 // The box or dialog that takes the input, whether this program is in the foreground or not.
 HWND ModalWindow() {
-    const SoundMemory sound;
+    const StandIn sound(allocationsLeft, 0);
     HWND modal = nullptr;
     const auto look = [](HWND window, LPARAM found) -> BOOL {
         const std::wstring name = ClassOf(window);
@@ -36,7 +36,7 @@ HWND ModalWindow() {
 }  // namespace
 
 bool IsBox(HWND window) {
-    const SoundMemory sound;
+    const StandIn sound(allocationsLeft, 0);
     return ClassOf(window) == L"#32770";
 }
 

@@ -17,10 +17,9 @@
 #include "store/catalogue.h"
 #include "store/estimate_file.h"
 #include "tests/document/recorded_drawing.h"
-#include "tests/support/distinct_estimate.h"
 #include "tests/support/readable.h"
+#include "tests/support/record_values.h"
 #include "tests/support/stand_in.h"
-#include "tests/support/test_data.h"
 #include "tests/ui/running_program.h"
 #include "tests/ui/told_window.h"
 #include "ui/binding.h"
@@ -344,7 +343,7 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
 // clang-format on
 
 void PlayLine(Story& s, HWND window, const std::wstring& line) {
-    INFO(Readable(line));
+    INFO(line);
     std::wistringstream stream(line);
     std::wstring verb;
     s.words = s.first = s.text = L"";
@@ -402,7 +401,7 @@ void RegisterStoriesOf(const std::filesystem::path& file) {
         ++number;
         if (line.empty() || line[0] == L'#') continue;
         if (!told || line.starts_with(L"story ")) {
-            stories.push_back({Readable(line).c_str(), {}});
+            stories.push_back({doctest::toString(line).c_str(), {}});
             doctest::detail::TestCase test(PlayStory, file.generic_string().c_str(), number,
                                            doctest::detail::TestSuite());
             doctest::detail::regTest(test * stories.back().name.c_str());

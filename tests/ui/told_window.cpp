@@ -8,7 +8,6 @@
 
 #include "platform/controls.h"
 #include "tests/support/readable.h"
-#include "tests/support/test_data.h"
 
 namespace tessaline {
 namespace {
