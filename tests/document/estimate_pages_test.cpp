@@ -6,37 +6,30 @@
 #include <sstream>
 
 #include "document/page_drawing.h"
+#include "document/page_texts.h"
 #include "document/print_job.h"
 #include "tests/document/recorded_drawing.h"
-#include "tests/support/readable.h"
+#include "tests/support/record_values.h"
 #include "tests/support/stand_in.h"
 
 using namespace tessaline;
 
 namespace {
 
-/// Seven lines, two separate services and notes; the first line has everything a line can have.
 Estimate FullEstimate() {
-    Estimate estimate;
-    estimate.EstimateId = L"GFE-20260307-140509";
-    estimate.LastModifiedOn = 1772884800;  // 7 March 2026, noon UTC
-    estimate.Patient = {L"Ann",  L"",          L"Lee",      L"01/02/1960",
-                        L"4821", L"12 Oak St", L"Apt 4",    L"Springfield",
-                        L"IL",   L"62701",     L"555-0101", L"ann@lee.example"};
-    estimate.Provider.OrganizationName = L"Surgery & Sports Clinic";
-    estimate.Provider.City = L"Peoria";
-    estimate.Provider.Npi = L"1234567890";
-    estimate.PrimaryService = L"Knee repair";
-    estimate.PrimaryDiagnosisCode = L"S83.2";
-    estimate.ScheduledDates = L"04/15/2026";
-    estimate.Lines = {{L"Room & board", L"9 Elm St", L"M23.2", L"HCPCS", L"A1", -3, 5.0}};
-    for (int i = 2; i <= 7; ++i) {
-        estimate.Lines.push_back({L"Item " + std::to_wstring(i), L"", L"", L"CPT", L"", 2, 10.0});
+    return RecordOf({L"page"});
+}
+
+/// The record whose fields "Name: value; ..." gives.
+template <typename Record = Estimate>
+Record RecordWith(const std::wstring& given) {
+    Record record;
+    std::wistringstream fields(given);
+    for (std::wstring field; std::getline(fields >> std::ws, field, L';');) {
+        const std::size_t colon = field.find(L": ");
+        REQUIRE(SetValue(record, field.substr(0, colon), field.substr(colon + 2)));
     }
-    estimate.SeparateItems = {{L"Therapy", L"Ask the therapist"},
-                              {L"Crutches", L"Ask the supplier"}};
-    estimate.ProviderNotes = L"Bring a photo\r\n& a pen";
-    return estimate;
+    return record;
 }
 
 Recording Page(const Estimate& estimate, int pageIndex, bool printMode = false) {
@@ -50,21 +43,34 @@ bool Shows(const Recording& page, const std::wstring& start) {
                        [&](const std::wstring& line) { return line.starts_with(start); });
 }
 
+std::wstring OnOneLine(std::wstring text) {
+    std::replace(text.begin(), text.end(), L'\n', L'\u00B6');
+    return text;
+}
+
+std::wstring Edges(const RECT& rect) {
+    return Told(rect.left) + L"," + Told(rect.top) + L"," + Told(rect.right) + L"," +
+           Told(rect.bottom);
+}
+
+std::wstring Pages(const std::wstring& given) {
+    const auto estimate = RecordWith(given);
+    std::wstring box;
+    for (const std::wstring& line : Page(estimate, 7).lines) {
+        if (line.starts_with(L"fill")) box = line;
+    }
+    const bool goesOn = Shows(Page(estimate, 0), L"text 50,776,");
+    return Told(PageCount(estimate)) + L", " + box + (goesOn ? L", more" : L"");
+}
+
 /// Compares with files that hold the lines of a recording, with "preview|print" where the two
 /// differ.
 void CheckAgainst(std::initializer_list<const wchar_t*> files, const Recording& drawn,
                   bool printMode) {
     const std::wregex choice(L"(\\w+)\\|(\\w+)");
-    std::size_t count = 0;
-    for (const wchar_t* const file : files) {
-        std::wistringstream expected(FromUtf8(TestData(file)));
-        for (std::wstring line; std::getline(expected, line); ++count) {
-            REQUIRE(count < drawn.lines.size());
-            CHECK(drawn.lines[count] ==
-                  std::regex_replace(line, choice, printMode ? L"$2" : L"$1"));
-        }
-    }
-    CHECK(drawn.lines.size() == count);
+    std::wstring text;
+    for (const wchar_t* const file : files) text += FromUtf8(TestData(file));
+    CheckLines(drawn.lines, std::regex_replace(text, choice, printMode ? L"$2" : L"$1"));
     CHECK(drawn.tidy);
 }
 
@@ -75,6 +81,29 @@ TEST_CASE("The first page shows six lines and says that more follow; the second 
         CheckAgainst({L"first-page.txt"}, Page(FullEstimate(), 0, printMode), printMode);
         CheckAgainst({L"second-page.txt"}, Page(FullEstimate(), 1, printMode), printMode);
     }
+}
+
+TEST_CASE("Pages say what is there, without gaps, and lie below the buttons of the preview") {
+    using Text = const std::wstring&;
+    CheckRules(
+        L"pages.txt",
+        {{L"patient",
+          [](Text given) { return OnOneLine(PatientBlock(RecordWith<PatientInfo>(given))); }},
+         {L"provider",
+          [](Text given) { return OnOneLine(ProviderBlock(RecordWith<ProviderInfo>(given))); }},
+         {L"dates", [](Text given) { return ScheduledValue(RecordWith(given)); }},
+         {L"information",
+          [](Text given) { return OnOneLine(EstimateInformation(RecordWith(given))); }},
+         {L"pages", Pages},
+         {L"preview", [](Text width, Text height) {
+              return Edges(PageArea(PreviewTransform(std::stoi(width), std::stoi(height))));
+          }}});
+}
+
+TEST_CASE("Each edge of a rectangle is cut towards zero by itself before the offset is added") {
+    CHECK(Edges(MapRect({-10, -20, 0, 0, 1.5, 0.75}, {1, 1, 1, 1})) == L"-9,-20,-7,-19");
+    CHECK(Edges(MapRect({-10, -20, 0, 0, 1.5, 0.75}, {2, 3, 3, 4})) == L"-7,-18,-3,-15");
+    CHECK(Edges(MapRect({0, 0, 0, 0, -1.5, -0.75}, {1, 1, 2, 2})) == L"-1,0,-4,-2");
 }
 
 TEST_CASE("Pages are printed in grey between the margins, as many as the printer takes") {
@@ -110,45 +139,6 @@ TEST_CASE("Pages are printed in grey between the margins, as many as the printer
     CHECK(told == L"Good Faith Estimate, page end, page end");
 }
 
-TEST_CASE("Any page index above 0 is the second page") {
-    CHECK(Page(FullEstimate(), 7).lines == Page(FullEstimate(), 1).lines);
-}
-
-TEST_CASE("A second page is there for more lines, separate services or notes, without gaps") {
-    struct Row {
-        std::size_t lines;
-        std::size_t separateItems;
-        const wchar_t* notes;
-        int pages;
-        const wchar_t* information;  // where the last box of the second page stands
-    };
-    const Row rows[] = {
-        {0, 0, L"", 1, L"fill 42,120,732,150"},    {6, 0, L" \r\n\t", 1, L"fill 42,258,732,150"},
-        {0, 0, L" a ", 2, L"fill 42,258,732,150"}, {6, 1, L"", 2, L"fill 42,223,732,150"},
-        {7, 0, L"", 2, L"fill 42,230,732,150"},    {40, 0, L"", 2, L"fill 42,1352,732,150"},
-    };
-    for (const Row& row : rows) {
-        Estimate estimate;
-        estimate.Lines.resize(row.lines);
-        estimate.SeparateItems.resize(row.separateItems);
-        estimate.ProviderNotes = row.notes;
-        CHECK(PageCount(estimate) == row.pages);
-        CHECK(Shows(Page(estimate, 1), row.information));
-        CHECK(Shows(Page(estimate, 0), L"text 50,776,") == (row.lines > 6));
-    }
-}
-
-TEST_CASE("Long texts of a row end in an ellipsis on their one line") {
-    Estimate estimate;
-    estimate.Lines.resize(1);
-    ServiceLine& line = estimate.Lines[0];
-    for (int i = 0; i < 50; ++i) line.ServiceItem += L"long\n";
-    line.ServiceAddress = line.DiagnosisCode = line.ServiceCode = line.ServiceItem;
-    int cut = 0;
-    for (const std::wstring& drawn : Page(estimate, 0).lines) cut += drawn.ends_with(L"...");
-    CHECK(cut == 4);
-}
-
 TEST_CASE("Letters are as high as the vertical scale says, cut to whole pixels per inch") {
     const PageTransform transform{0, 0, 100, 100, 7.0, 1.0078};
     const Recording text([&](HDC dc) {
@@ -166,6 +156,10 @@ TEST_CASE("A record of any content is drawn") {
     estimate.Provider.OrganizationName = estimate.PrimaryService = lines;
     estimate.Lines[0] = estimate.Lines[6] = {lines, word, word, lines, word, INT_MIN, 1e308};
     estimate.SeparateItems = {{word, lines}};
-    CHECK(Shows(Page(estimate, 0), L"text 42,985,732,18 7pt 657481 centre: Prepared"));
+    const Recording first = Page(estimate, 0);
+    CHECK(std::count_if(first.lines.begin(), first.lines.end(), [](const std::wstring& line) {
+              return line.ends_with(L"...");  // each long text of a row, on its one line
+          }) == 4);
+    CHECK(Shows(first, L"text 42,985,732,18 7pt 657481 centre: Prepared"));
     CHECK(Shows(Page(estimate, 1), L"text 42,985,732,18 7pt 657481 centre: Prepared"));
 }

@@ -12,11 +12,13 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "document/page_transform.h"
 #include "platform/handles.h"
+#include "tests/support/rule_table.h"
 
 namespace tessaline {
 
@@ -89,7 +91,7 @@ class Recording {
                 lines.push_back(
                     (hollow ? L"frame " : L"box ") +
                     Place(box.left, box.top, box.right + 1 - box.left, box.bottom + 1 - box.top) +
-                    Hex(pen.lopnColor) + L" pen " + std::to_wstring(pen.lopnWidth.x));
+                    Hex(pen.lopnColor) + L" pen " + Told(pen.lopnWidth.x));
                 break;
             }
             case EMR_EXTTEXTOUTW:
@@ -110,7 +112,7 @@ class Recording {
         fontHeight = font.lfHeight;
         const auto& [left, top, right, bottom] = text.rcl;
         std::wstring how = L"text " + Place(left, top, right - left, bottom - top) +
-                           std::to_wstring(std::lround(-fontHeight * 0.75 / units_.scaleY)) +
+                           Told(std::lround(-fontHeight * 0.75 / units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
         if (GetBkMode(dc) != TRANSPARENT) how += L" opaque";
@@ -135,15 +137,14 @@ class Recording {
 
     /// Pixels as page units; what is left over shows.
     static std::wstring Units(LONG pixels, double scale) {
-        const LONG rest = pixels % static_cast<LONG>(scale);
-        return std::to_wstring(pixels / static_cast<LONG>(scale)) +
-               (rest == 0 ? L"" : L"+" + std::to_wstring(rest));
+        const std::ldiv_t units = std::ldiv(pixels, static_cast<LONG>(scale));
+        return Told(units.quot) + (units.rem == 0 ? L"" : L"+" + Told(units.rem));
     }
 
     [[nodiscard]] std::wstring Place(LONG left, LONG top, LONG width, LONG height) const {
-        const auto& [originX, originY, right, bottom, scaleX, scaleY] = units_;
-        return Units(left - originX, scaleX) + L"," + Units(top - originY, scaleY) + L"," +
-               Units(width, scaleX) + L"," + Units(height, scaleY) + L" ";
+        return Units(left - units_.left, units_.scaleX) + L"," +
+               Units(top - units_.top, units_.scaleY) + L"," + Units(width, units_.scaleX) + L"," +
+               Units(height, units_.scaleY) + L" ";
     }
 
     PageTransform units_;

@@ -116,7 +116,7 @@ TEST_CASE("A file of the older edition gives its record, under its own key alone
     OldFolder folder;
     const Bytes file = TestData(L"legacy-estimate.gfe");
     CHECK(folder.Open(file) == L"opened GFE-20240229-235959");
-    CHECK(Differences(folder.estimate, FullRecord(L"legacy")) == L"");
+    CHECK(Differences(folder.estimate, RecordOf({L"full", L"legacy"})) == L"");
     folder.UseKey(Bytes(32, 1));
     CHECK(folder.Open(file) == kNotDecrypted);
 }

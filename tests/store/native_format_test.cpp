@@ -21,7 +21,7 @@ Bytes Plain(const SecretBytes& payload) {
 
 // The record in tests/data/payload-full.bin.
 Estimate FullEstimate() {
-    Estimate estimate = FullRecord(L"native");
+    Estimate estimate = RecordOf({L"full", L"native"});
     estimate.ReservedFlag = true;
     return estimate;
 }

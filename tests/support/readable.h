@@ -5,9 +5,11 @@
 #include <doctest/doctest.h>
 #include <test_data_folder.h>
 
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "platform/files.h"
 #include "platform/utf8.h"
@@ -37,6 +39,16 @@ namespace tessaline {
     Bytes bytes = ReadFileBytes(std::wstring(kTestDataFolder) + L"/" + name);
     REQUIRE_FALSE(bytes.empty());
     return bytes;
+}
+
+/// Checks lines against a text of such lines.
+inline void CheckLines(const std::vector<std::wstring>& lines, const std::wstring& text) {
+    std::wistringstream wanted(text);
+    std::wstring line;
+    for (const std::wstring& found : lines) {
+        CHECK(found == (std::getline(wanted, line) ? line : L"no more"));
+    }
+    CHECK_FALSE(std::getline(wanted, line));
 }
 
 }  // namespace tessaline

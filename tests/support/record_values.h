@@ -46,12 +46,12 @@ bool SetValue(Value& value, const std::wstring& path, const std::wstring& text) 
     return true;
 }
 
-/// The record that payload-full.bin ("native") or legacy-estimate.gfe ("legacy") holds.
-inline Estimate FullRecord(const std::wstring& edition) {
+/// The record that these rules of record.txt describe.
+inline Estimate RecordOf(const std::set<std::wstring>& rules) {
     Estimate estimate;
     for (const RuleRow& row : RowsOf(L"record.txt")) {
         CAPTURE(row.place);
-        if (row.cells[0] != L"full" && row.cells[0] != edition) continue;
+        if (!rules.contains(row.cells[0])) continue;
         REQUIRE(SetValue(estimate, row.cells.at(1), row.cells.at(2)));
     }
     return estimate;
