@@ -73,8 +73,9 @@ RunningProgram::RunningProgram(int dpi) {
     PublishAppState(&app);
     running = this;
     // Any loop dispatches it, those of message boxes too, and only when nothing else waits.
-    timer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM,
-                      [](HWND, UINT, UINT_PTR, DWORD) { running->LookAround(); });
+    timer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
+        if (const HWND modal = ModalWindow()) running->user_(modal);
+    });
     ShowWindow(CreateMainWindow(), SW_SHOW);
     Settle();
 }
@@ -89,8 +90,6 @@ RunningProgram::~RunningProgram() {
     CHECK(FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr) == nullptr);
     KillTimer(nullptr, timer_);
     PublishAppState(nullptr);
-    for (const std::wstring& box : boxes_) CHECK(box == L"a box that came");
-    CHECK(steps_.empty());
 }
 
 int RunningProgram::Settle() const {
@@ -110,37 +109,6 @@ void RunningProgram::CheckFile() const {
     CHECK(LoadEstimateFile(app.store, app.CurrentFilePath, saved, error));
     saved.LastModifiedOn = app.currentEstimate.LastModifiedOn;  // when the form was last read
     CHECK(Differences(saved, app.currentEstimate) == L"");
-}
-
-void RunningProgram::LookAround() {
-    const HWND modal = ModalWindow();
-    if (modal == nullptr) return;
-    if (user_) return user_(modal);
-    CHECK_FALSE(IsWaiting());
-    IsBox(modal) ? AnswerBox(modal) : TakeStep(modal);
-}
-
-void RunningProgram::AnswerBox(HWND box) {
-    if (boxes_.empty()) ExpectBox(L"[no box] No");
-    const std::wstring expected = boxes_.front();
-    HWND answer = nullptr;
-    CHECK(DescribeBox(box, expected, answer) == expected.substr(0, expected.find(L']') + 1));
-    CHECK(GetWindow(box, GW_OWNER) == (IsWindow(dialog_) ? dialog_ : app.mainWindow));
-    boxes_.pop_front();
-    SendMessageW(answer, BM_CLICK, 0, 0);
-}
-
-void RunningProgram::TakeStep(HWND dialog) {
-    dialog_ = dialog;
-    CHECK_FALSE(IsWindowEnabled(app.mainWindow));
-    if (steps_.empty())
-        InDialog([](HWND open) {
-            CHECK(ClassOf(open) == L"a window that closed");
-            SendMessageW(open, WM_CLOSE, 0, 0);
-        });
-    const auto step = std::move(steps_.front());
-    steps_.pop_front();
-    step(dialog);
 }
 
 }  // namespace tessaline

@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <utility>
@@ -22,7 +21,7 @@ namespace tessaline {
 /// Whether the wait cursor shows.
 [[nodiscard]] bool IsWaiting();
 
-/// One at a time. Its end checks that every expected box and every step came.
+/// One at a time.
 class RunningProgram {
   public:
     explicit RunningProgram(int dpi);
@@ -36,12 +35,6 @@ class RunningProgram {
     /// Handles every message that waits. The exit code when one was to quit, else -1.
     int Settle() const;
 
-    /// The next message box must read "icon caption: text [buttons]". The words after that are the
-    /// button to press, else the first. Any other box is a failure.
-    void ExpectBox(const std::wstring& box) { boxes_.push_back(box); }
-    /// What the user does next in a modal window, once its loop is idle.
-    void InDialog(std::function<void(HWND dialog)> step) { steps_.push_back(std::move(step)); }
-
     /// From now on this user deals with every box and dialog, each time that its loop is idle.
     void LeaveTo(std::function<void(HWND modal)> user) { user_ = std::move(user); }
 
@@ -49,14 +42,7 @@ class RunningProgram {
     void CheckFile() const;
 
   private:
-    void LookAround();
-    void AnswerBox(HWND box);
-    void TakeStep(HWND dialog);
-
-    std::deque<std::wstring> boxes_;
-    std::deque<std::function<void(HWND)>> steps_;
     std::function<void(HWND)> user_;
-    HWND dialog_ = nullptr;
     UINT_PTR timer_ = 0;
 };
 

@@ -51,7 +51,7 @@ HANDLE WINAPI SearchFolder(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
 }
 
 struct Story {
-    explicit Story(int dpi) : program(dpi) { windows = {}; }
+    explicit Story(int dpi);
 
     RunningProgram program;
     AppState& app = program.app;
@@ -59,6 +59,9 @@ struct Story {
     StandIn<decltype(&FindFirstFileW)> search{__imp_FindFirstFileW, SearchFolder};
     std::vector<FileOwner> locks;
     Estimate bound;
+    // The lines for the boxes and dialogs that the line before them opens, and the last dialog.
+    std::deque<std::wstring> meanwhile;
+    HWND dialog = nullptr;
     // The line that is played: in which window, its words after the verb, the first of them, what
     // that stands for, and the others.
     HWND window = nullptr, target = nullptr;
@@ -79,13 +82,12 @@ struct Story {
 
 // The preview that is on top.
 HWND Preview() {
-    return FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr);
+    return FindWindowW(L"GFE_Native_Preview", nullptr);
 }
 
 // The control with that ID or text, or the part of the main window with that name. The preview's
 // controls go by their texts.
 HWND Find(const Story& s) {
-    const std::wstring& name = s.first;
     const AppState& app = s.app;
     const std::map<std::wstring, HWND> parts = {
         {L"form", app.canvasWindow},       {L"bar", app.barWindow},
@@ -97,12 +99,11 @@ HWND Find(const Story& s) {
     const bool inMain = s.window == app.mainWindow;
     if (inMain && app.controlById.contains(s.number)) return app.controlById.at(s.number);
     if (s.number != 0) return GetDlgItem(inMain ? app.canvasWindow : s.window, s.number);
-    if ((inMain || name == L"preview") && parts.contains(name)) return parts.at(name);
-    const HWND around = inMain ? Preview() : s.window;
-    for (const std::wstring& text : {s.words, name}) {
-        const bool told = around != nullptr && !text.empty();
-        const HWND found = told ? FindWindowExW(around, nullptr, nullptr, text.c_str()) : nullptr;
-        if (found != nullptr) return found;
+    if (parts.contains(s.first)) return parts.at(s.first);
+    for (const std::wstring& text : {s.words, s.first}) {
+        const HWND around = inMain ? Preview() : s.window;
+        const HWND found = FindWindowExW(around, nullptr, nullptr, text.c_str());
+        if (found != nullptr && !text.empty()) return found;
     }
     return s.window;
 }
@@ -124,23 +125,14 @@ void Type(Story& s) {
 
 // A complete estimate that is not the sample, in a file and in the form.
 void Open(Story& s) {
-    std::wistringstream words(s.words);
     Estimate estimate = SampleEstimate();
-    words >> estimate.EstimateId >> estimate.EstimateStatus >> estimate.IssuedOn;
-    estimate.RootEstimateId = estimate.EstimateId;
+    estimate.EstimateId = estimate.RootEstimateId = s.first;
+    estimate.EstimateStatus = s.text;
     estimate.LastModifiedOn = 86'400;
     estimate.ProviderNotes.clear();
     s.Bind(estimate);
     s.PutFile();
-    s.app.CurrentFilePath = s.program.store.Path(estimate.EstimateId + L".gfe");
-}
-
-// A value of its own in every field, but for the contact preference and the status.
-void BindDistinct(Story& s) {
-    Estimate estimate = DistinctEstimate();
-    std::wistringstream words(s.words);
-    words >> estimate.Patient.ContactPreference >> estimate.EstimateStatus;
-    s.Bind(estimate);
+    s.app.CurrentFilePath = s.program.store.Path(s.first + L".gfe");
 }
 
 // Sizes the main window by what it holds.
@@ -163,15 +155,6 @@ void DragThumb(Story& s) {
     PostMessageW(s.target, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(end.x, end.y));
     PostMessageW(s.target, WM_LBUTTONUP, 0, MAKELPARAM(end.x, end.y));
     s.Send(WM_NCLBUTTONDOWN, HTVSCROLL, MAKELPARAM(start.x, start.y));
-}
-
-// An estimate of so many lines, each $1.
-void BindLines(Story& s) {
-    Estimate estimate = s.app.currentEstimate;
-    for (int i = 1; i <= s.number; ++i) {
-        estimate.Lines.push_back({L"Item " + std::to_wstring(i), L"", L"", L"CPT", L"", 1, 1.0});
-    }
-    s.Bind(estimate);
 }
 
 // The page "1 of 2", say, is on the screen, known by the rule below its title.
@@ -200,9 +183,7 @@ void CheckPainting(Story& s) {
             s.Send(WM_PAINT);
         },
         {0, 0, 0, 0, scale, scale});
-    const std::vector<std::wstring> wanted = SectionLines(s.words);
-    for (std::size_t i = 0; i < wanted.size(); ++i) CHECK(painted.lines.at(i) == wanted[i]);
-    CHECK(painted.lines.size() == wanted.size());
+    CheckLines(painted.lines, Section(s.words));
 }
 
 void CheckState(Story& s) {
@@ -251,6 +232,15 @@ void CheckCanvas(Story& s) {
     CHECK(GetScrollPos(s.app.scrollWindow, SB_VERT) == Scale(s.number));
 }
 
+// "icon caption: text [buttons]" and the button to press, else it is the first.
+void AnswerBox(Story& s) {
+    HWND answer = nullptr;
+    const std::wstring wanted = s.words.substr(0, s.words.find(L']') + 1);
+    CHECK(DescribeBox(s.window, s.words, answer) == wanted);
+    CHECK(GetWindow(s.window, GW_OWNER) == (IsWindow(s.dialog) ? s.dialog : s.app.mainWindow));
+    SendMessageW(answer, BM_CLICK, 0, 0);
+}
+
 // The colours with which a control's parent has it drawn, in hexadecimal (blue, green, red): of
 // the text, behind the text, and of the brush. CLR_NONE where nothing is filled.
 void CheckColours(Story& s) {
@@ -271,7 +261,7 @@ void CheckColours(Story& s) {
 // clang-format off
 const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     // What the user does.
-    {L"type", Type}, {L"size", Size},
+    {L"type", Type}, {L"size", Size}, {L"drag", DragThumb}, {L"box", AnswerBox},
     {L"press", [](Story& s) { s.Send(BM_CLICK); }},
     {L"choose", [](Story& s) { s.Send(WM_KEYDOWN, VK_DOWN); }},
     {L"double", [](Story& s) { s.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(20, 35)); }},
@@ -280,7 +270,6 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"key", [](Story& s) { PostMessageW(GetFocus(), WM_KEYDOWN, s.Word(), 0); }},
     {L"close", [](Story& s) { s.Send(WM_CLOSE); }},
     {L"activate", [](Story& s) { SetActiveWindow(s.target); }},
-    {L"drag", DragThumb},
     {L"scroll", [](Story& s) { s.Send(WM_VSCROLL, s.Value()); }},
     {L"wheel", [](Story& s) { s.Send(WM_MOUSEWHEEL, s.Value() * 65536LL); }},
     // What comes about.
@@ -290,7 +279,12 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
         CHECK(s.program.Settle() == -1); }},
     {L"settle", [](Story& s) { CHECK(s.program.Settle() == (s.words.empty() ? -1 : s.number)); }},
     {L"quit", [](Story& s) { PostQuitMessage(s.number); }},
-    {L"open", Open},  {L"distinct", BindDistinct}, {L"lines", BindLines},
+    {L"open", Open},
+    {L"distinct", [](Story& s) { s.Bind(DistinctEstimate()); }},
+    {L"set", [](Story& s) {
+        Estimate estimate = s.app.currentEstimate;
+        CHECK(SetValue(estimate, s.first, s.text));
+        s.Bind(estimate); }},
     {L"printer", [](Story&) { windows.hasPrinter = true; }},
     {L"starve", [](Story&) { windows.hasMemory = false; }},
     {L"stretch", [](Story& s) {
@@ -306,9 +300,8 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"copy", [](Story& s) { CHECK(s.program.store.Put(s.text, TestData(s.first))); }},
     {L"folder", [](Story& s) {
         s.app.store = LocalStoreBelow(s.words.empty() ? _wgetenv(L"TESSALINE_FOLDER") : s.words); }},
-    {L"vanish", [](Story& s) { std::filesystem::remove_all(s.app.store.BaseFolder); }},
-    {L"room", [](Story&) {
-        CHECK(std::filesystem::remove(std::wstring(_wgetenv(L"TESSALINE_FOLDER")) + L"/rest")); }},
+    {L"remove", [](Story& s) {
+        CHECK(std::filesystem::remove_all(s.app.store.EstimatesFolder + L"/" + s.words) > 0); }},
     {L"long", [](Story& s) {
         SetWindowTextW(s.target, std::wstring(static_cast<std::size_t>(s.Value()), L'x').c_str()); }},
     {L"unlock", [](Story& s) { s.locks.clear(); }},
@@ -328,13 +321,12 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
         CHECK(same); }},
     {L"text", [](Story& s) { CheckText(WindowText(s.target), s.text); }},
     {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
-    {L"looks", [](Story& s) { CheckWindow(s.target, s.words, ScreenDpi()); }},
+    {L"looks", [](Story& s) { CheckLines(ToldWindow(s.target), Section(s.words)); }},
     {L"drawn", [](Story& s) {
         RedrawWindow(s.target, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN); }},
     {L"redraws", [](Story& s) { CHECK(GetUpdateRect(s.target, nullptr, FALSE)); }},
     {L"focus", [](Story& s) { CHECK(GetFocus() == s.target); }},
-    {L"enabled", [](Story& s) { CHECK(IsWindowEnabled(s.target)); }},
-    {L"disabled", [](Story& s) { CHECK_FALSE(IsWindowEnabled(s.target)); }},
+    {L"enabled", [](Story& s) { CHECK(Told(IsWindowEnabled(s.target) != 0) == s.text); }},
     {L"active", [](Story& s) { CHECK(ClassOf(GetActiveWindow()) == s.words); }},
     {L"differs", [](Story& s) {
         ReadForm();
@@ -360,35 +352,39 @@ void PlayLine(Story& s, HWND window, const std::wstring& line) {
     if (found != kVerbs.end()) found->second(s);
 }
 
-struct ToldStory {
-    std::string name;
-    std::vector<std::wstring> lines;
-};
+// What the next of the indented lines tells, once a box or a dialog waits for the user.
+void PlayMeanwhile(Story& s, HWND modal) {
+    CHECK_FALSE(IsWaiting());
+    const bool isBox = IsBox(modal);
+    if (!isBox) CHECK_FALSE(IsWindowEnabled(s.app.mainWindow));
+    if (!isBox) s.dialog = modal;
+    const bool isTold = !s.meanwhile.empty() && s.meanwhile.front().starts_with(L"box ") == isBox;
+    CHECK(isTold);
+    std::wstring line = isBox ? L"box [] No" : L"close";
+    if (isTold) line = s.meanwhile.front(), s.meanwhile.pop_front();
+    PlayLine(s, modal, line);
+}
 
-// Of all files. They stay where they are, because the test framework only borrows their names.
-std::deque<ToldStory> stories;
+Story::Story(int dpi) : program(dpi) {
+    windows = {};
+    program.LeaveTo([this](HWND modal) { PlayMeanwhile(*this, modal); });
+}
+
+// The lines of every story by its name, which the test framework borrows.
+std::map<std::string, std::vector<std::wstring>> stories;
 
 // Plays the story that the test framework has begun.
 void PlayStory() {
-    const char* const name = doctest::getContextOptions()->currentTest->m_name;
-    const auto told = std::find_if(stories.begin(), stories.end(), [&](const ToldStory& story) {
-        return story.name.c_str() == name;
-    });
-    const std::vector<std::wstring>& lines = told->lines;
-    REQUIRE(lines[0].starts_with(L"story "));
+    const auto& lines = stories.at(doctest::getContextOptions()->currentTest->m_name);
     Story story(_wtoi(lines[0].c_str() + 6));
     for (std::size_t next = 1; next < lines.size();) {
         const std::wstring line = lines[next++];
         for (; next < lines.size() && lines[next].starts_with(L"  "); ++next) {
-            const std::wstring then = lines[next].substr(2);
-            if (then.starts_with(L"box ")) {
-                story.program.ExpectBox(then.substr(4));
-            } else {
-                story.program.InDialog([&, then](HWND dialog) { PlayLine(story, dialog, then); });
-            }
+            story.meanwhile.push_back(lines[next].substr(2));
         }
         const HWND main = story.app.mainWindow;
         PlayLine(story, main, line);
+        CHECK(story.meanwhile.empty());
         if (IsWindow(main)) CHECK(IsWindowEnabled(main));
     }
 }
@@ -396,18 +392,17 @@ void PlayStory() {
 void RegisterStoriesOf(const std::filesystem::path& file) {
     std::wistringstream text(FromUtf8(ReadFileBytes(file.wstring())));
     unsigned number = 0;
-    bool told = false;
+    std::string name;
     for (std::wstring line; std::getline(text, line);) {
         ++number;
         if (line.empty() || line[0] == L'#') continue;
-        if (!told || line.starts_with(L"story ")) {
-            stories.push_back({doctest::toString(line).c_str(), {}});
+        if (line.starts_with(L"story ")) {
+            name = doctest::toString(line).c_str();
             doctest::detail::TestCase test(PlayStory, file.generic_string().c_str(), number,
                                            doctest::detail::TestSuite());
-            doctest::detail::regTest(test * stories.back().name.c_str());
-            told = true;
+            doctest::detail::regTest(test * stories.try_emplace(name).first->first.c_str());
         }
-        stories.back().lines.push_back(line);
+        stories.at(name).push_back(line);
     }
 }
 

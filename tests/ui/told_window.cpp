@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/controls.h"
+#include "platform/scale.h"
 #include "tests/support/readable.h"
 
 namespace tessaline {
@@ -40,7 +41,7 @@ constexpr struct { std::wstring_view name; int points, weight; } kFonts[] = {
     {L"title", 20, 600}, {L"section", 12, 600}, {L"total", 17, 600}, {L"none", 0, 0}};
 // clang-format on
 
-std::wstring Columns(HWND list, int dpi) {
+std::wstring Columns(HWND list) {
     std::wostringstream columns;
     wchar_t text[256] = L"";
     LVCOLUMNW column{};
@@ -48,7 +49,7 @@ std::wstring Columns(HWND list, int dpi) {
     column.pszText = text;
     column.cchTextMax = 256;
     for (int index = 0; ListView_GetColumn(list, index, &column); ++index) {
-        columns << (index == 0 ? L"" : L"|") << text << L' ' << MulDiv(column.cx, 96, dpi)
+        columns << (index == 0 ? L"" : L"|") << text << L' ' << Unscale(column.cx)
                 << ((column.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT ? L" right" : L"");
     }
     CHECK(ListView_GetExtendedListViewStyle(list) ==
@@ -57,26 +58,26 @@ std::wstring Columns(HWND list, int dpi) {
 }
 
 // The height of a choice with its list, as it was made.
-int OpenedHeight(HWND choice, int dpi) {
+int OpenedHeight(HWND choice) {
     RECT opened{};
     SendMessageW(choice, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&opened));
     // Windows counts the closed box in; Wine leaves it out, as high as it was first.
-    const int height = MulDiv(opened.bottom - opened.top, 96, dpi);
-    return MulDiv(height > 190 && height < 220 ? 220 : height, dpi, 96);
+    const int height = Unscale(opened.bottom - opened.top);
+    return Scale(height > 190 && height < 220 ? 220 : height);
 }
 
 // The window as a line of the file has it.
-std::wstring Told(HWND window, int dpi) {
+std::wstring Line(HWND window) {
     const std::wstring className = ClassOf(window);
     auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE)) & ~DWORD{WS_HSCROLL};
     const auto extended = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
     RECT place = PlaceOf(window);
     std::wstring text = WindowText(window);
     if (className == L"ComboBox") {
-        place.bottom = OpenedHeight(window, dpi);
+        place.bottom = OpenedHeight(window);
         style &= ~DWORD{CBS_HASSTRINGS};  // which Windows adds
     }
-    if (className == L"SysListView32") text = Columns(window, dpi);
+    if (className == L"SysListView32") text = Columns(window);
     if (extended == WS_EX_STATICEDGE) place.right = place.bottom = 0;  // measures itself
     LOGFONTW font{};
     const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
@@ -88,13 +89,12 @@ std::wstring Told(HWND window, int dpi) {
     if (told.str().empty()) told << className << std::hex << style << L' ' << extended << std::dec;
     told << L' ' << GetDlgCtrlID(window);
     for (const LONG side : {place.left, place.top, place.right, place.bottom}) {
-        const int at96 = MulDiv(side, 96, dpi);
-        CHECK(MulDiv(at96, dpi, 96) == side);
-        told << L' ' << at96;
+        CHECK(Scale(Unscale(side)) == side);
+        told << L' ' << Unscale(side);
     }
     CHECK((handle == 0 || font.lfFaceName == std::wstring(L"Segoe UI")));
     for (const auto& [name, points, weight] : kFonts) {
-        if (font.lfHeight == -MulDiv(points, dpi, 72) && font.lfWeight == weight) {
+        if (font.lfHeight == -MulDiv(points, ScreenDpi(), 72) && font.lfWeight == weight) {
             told << L' ' << name;
         }
     }
@@ -125,26 +125,21 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
-std::vector<std::wstring> SectionLines(const std::wstring& section) {
-    std::wistringstream file(FromUtf8(TestData(L"ui/windows.txt")));
-    std::vector<std::wstring> lines;
-    std::wstring line;
-    while (line != L"[" + section + L"]" && std::getline(file, line)) {
-    }
-    while (std::getline(file, line) && !line.empty()) {
-        lines.push_back(std::regex_replace(line, std::wregex(L" +"), L" "));
-    }
-    CHECK_FALSE(lines.empty());
-    return lines;
+std::wstring Section(const std::wstring& name) {
+    const std::wstring file = FromUtf8(TestData(L"ui/windows.txt"));
+    const std::size_t start = file.find(L"[" + name + L"]\n");
+    CHECK(start != std::wstring::npos);
+    const std::size_t first = start + name.size() + 3;
+    const std::wstring lines = file.substr(first, file.find(L"\n\n", first) - first);
+    return std::regex_replace(lines, std::wregex(L" +"), L" ");
 }
 
-void CheckWindow(HWND window, const std::wstring& section, int dpi) {
-    HWND next = GetWindow(window, GW_OWNER) ? window : GetWindow(window, GW_CHILD);
-    for (const std::wstring& line : SectionLines(section)) {
-        CHECK(Told(next, dpi) == line);
-        next = GetWindow(next, next == window ? GW_CHILD : GW_HWNDNEXT);
-    }
-    CHECK(next == nullptr);
+std::vector<std::wstring> ToldWindow(HWND window) {
+    std::vector<std::wstring> lines;
+    if (GetWindow(window, GW_OWNER)) lines.push_back(Line(window));
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        lines.push_back(Line(child));
+    return lines;
 }
 
 std::wstring Cells(HWND list) {

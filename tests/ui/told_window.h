@@ -14,12 +14,12 @@ namespace tessaline {
 /// from where it is in the middle of its owner.
 [[nodiscard]] RECT PlaceOf(HWND window);
 
-/// The lines of a section of tests/data/ui/windows.txt, single blanks between the words.
-[[nodiscard]] std::vector<std::wstring> SectionLines(const std::wstring& section);
+/// A section of tests/data/ui/windows.txt, single blanks between the words.
+[[nodiscard]] std::wstring Section(const std::wstring& name);
 
-/// Checks a window, if it is a dialog, and every child that it has, in the order of creation,
-/// against such a section.
-void CheckWindow(HWND window, const std::wstring& section, int dpi = 96);
+/// A window, if it is a dialog, and every child that it has, in the order of creation, as the
+/// lines of such a section.
+[[nodiscard]] std::vector<std::wstring> ToldWindow(HWND window);
 
 /// The texts of a list, joined by bars, with a semicolon after each row.
 [[nodiscard]] std::wstring Cells(HWND list);
