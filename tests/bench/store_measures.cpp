@@ -6,7 +6,6 @@
 
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_file.h"
-#include "model/estimate_fields.h"
 #include "platform/handles.h"
 #include "store/catalogue.h"
 #include "store/native_format.h"
@@ -90,35 +89,25 @@ double PeakMegabytes() {
     return static_cast<double>(counters.PeakWorkingSetSize) / (1024 * 1024);
 }
 
-// Calls `visit` for every text of the record, in stored order.
-template <typename Value, typename Visit>
-void ForEachText(const Value& value, Visit& visit) {
-    if constexpr (std::is_same_v<Value, std::wstring>) {
-        visit(value);
-    } else if constexpr (requires { value.size(); }) {
-        for (const auto& element : value) ForEachText(element, visit);
-    } else if constexpr (!std::is_arithmetic_v<Value>) {
-        ForEachField(value, [&](const wchar_t*, const auto& field) { ForEachText(field, visit); });
-    }
-}
-
-// Converts every text to UTF-8 and back by Windows' own calls, and copies as many bytes. What it
-// reads it keeps until the end, as a record does.
+// Converts the texts of every line to UTF-8 and back by Windows' own calls, and copies as many
+// bytes. What it reads it keeps until the end, as a record does.
 void BarePayload(const Estimate& estimate, std::vector<char>& room) {
     std::vector<std::wstring> texts;
-    texts.reserve(estimate.Lines.size() * 5 + 100);
+    texts.reserve(estimate.Lines.size() * 5);
     char* at = room.data();
-    auto convert = [&](const std::wstring& text) {
-        std::wstring& back = texts.emplace_back(text.size(), L'\0');
-        const int length = static_cast<int>(text.size());
-        if (length == 0) return;
-        const int size =
-            WideCharToMultiByte(CP_UTF8, 0, text.data(), length, at,
-                                int(room.data() + room.size() - at), nullptr, nullptr);
-        MultiByteToWideChar(CP_UTF8, 0, at, size, back.data(), length);
-        at += size;
-    };
-    ForEachText(estimate, convert);
+    for (const ServiceLine& line : estimate.Lines) {
+        for (const std::wstring* text :
+             {&line.ServiceItem, &line.ServiceAddress, &line.DiagnosisCode, &line.ServiceCodeType,
+              &line.ServiceCode}) {
+            std::wstring& back = texts.emplace_back(text->size(), L'\0');
+            const int length = static_cast<int>(text->size());
+            const int size =
+                WideCharToMultiByte(CP_UTF8, 0, text->data(), length, at,
+                                    int(room.data() + room.size() - at), nullptr, nullptr);
+            MultiByteToWideChar(CP_UTF8, 0, at, size, back.data(), length);
+            at += size;
+        }
+    }
     Demand(std::vector<char>(room.data(), at).size() > 1000);
 }
 
