@@ -140,11 +140,12 @@ TEST_CASE("Pages are printed in grey between the margins, as many as the printer
 }
 
 TEST_CASE("Letters are as high as the vertical scale says, cut to whole pixels per inch") {
-    const PageTransform transform{0, 0, 100, 100, 7.0, 1.0078};
-    const Recording text([&](HDC dc) {
-        DrawPageText(dc, transform, L"a", {0, 0, 9, 40}, {22, kNormal, 0});
-    });
-    CHECK(text.fontHeight == -29);  // 22 points at 96 pixels per inch; 97 would give -30
+    constexpr PageTransform kUneven{0, 0, 0, 0, 4.0, 1.999};
+    const auto draw = [&](HDC dc) {
+        DrawPageText(dc, kUneven, L"a", {0, 0, 9, 40}, {720, kNormal, 0});
+    };
+    // 191 pixels per inch; 192 would give 720 points.
+    CHECK(Recording(draw, kUneven).lines.at(0) == L"text 0,0,9,79 717pt 000000 left: a");
 }
 
 TEST_CASE("A record of any content is drawn") {

@@ -43,8 +43,7 @@ class Recording {
     }
 
     std::vector<std::wstring> lines;
-    LONG fontHeight = 0;  ///< of the last font, in pixels
-    bool tidy = false;    ///< no call left a font, pen or brush behind, undeleted or selected
+    bool tidy = false;  ///< no call left a font, pen or brush behind, undeleted or selected
 
   private:
     static std::array<HGDIOBJ, 3> Selection(HDC dc) {
@@ -109,10 +108,9 @@ class Recording {
         const std::wstring words(reinterpret_cast<const wchar_t*>(bytes + text.offString),
                                  text.nChars);
         const auto font = Selected<LOGFONTW>(dc, OBJ_FONT);
-        fontHeight = font.lfHeight;
         const auto& [left, top, right, bottom] = text.rcl;
         std::wstring how = L"text " + Place(left, top, right - left, bottom - top) +
-                           Told(std::lround(-fontHeight * 0.75 / units_.scaleY)) +
+                           Told(std::lround(-font.lfHeight * 0.75 / units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
         if (GetBkMode(dc) != TRANSPARENT) how += L" opaque";

@@ -221,17 +221,6 @@ void CheckMarks(Story& s) {
     CHECK(marks == s.words);
 }
 
-// The canvas is scrolled so far, in the middle of its container.
-void CheckCanvas(Story& s) {
-    RECT view{};
-    GetClientRect(s.app.scrollWindow, &view);
-    const RECT place = PlaceOf(s.app.canvasWindow);
-    const RECT wanted{std::max(0L, (view.right - Scale(930)) / 2), -Scale(s.number), Scale(930),
-                      Scale(1960)};
-    CHECK(EqualRect(&place, &wanted));
-    CHECK(GetScrollPos(s.app.scrollWindow, SB_VERT) == Scale(s.number));
-}
-
 // "icon caption: text [buttons]" and the button to press, else it is the first.
 void AnswerBox(Story& s) {
     HWND answer = nullptr;
@@ -308,14 +297,15 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
     {L"lock", [](Story& s) { s.locks.push_back(s.program.store.Lock(s.words)); }},
     // What is to be seen.
     {L"state", CheckState}, {L"files", CheckFiles}, {L"marks", CheckMarks},
-    {L"canvas", CheckCanvas}, {L"colours", CheckColours}, {L"page", CheckPage},
-    {L"paints", CheckPainting},
+    {L"colours", CheckColours}, {L"page", CheckPage}, {L"paints", CheckPainting},
+    {L"place", [](Story& s) {
+        const RECT place = PlaceOf(s.target);
+        CHECK(Told(Unscale(place.left)) + L" " + Told(Unscale(place.top)) == s.text); }},
     {L"searched", [](Story& s) {
         CHECK(std::exchange(windows.searches, {}) == s.words + L" "); }},
     {L"measures", [](Story& s) {
         const RECT place = PlaceOf(s.target);
-        CHECK(std::to_wstring(Unscale(place.right)) + L" " +
-              std::to_wstring(Unscale(place.bottom)) == s.text); }},
+        CHECK(Told(Unscale(place.right)) + L" " + Told(Unscale(place.bottom)) == s.text); }},
     {L"same", [](Story& s) {
         const bool same = ReadFileBytes(s.program.store.Path(s.text)) == TestData(s.first);
         CHECK(same); }},

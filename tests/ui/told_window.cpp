@@ -57,15 +57,6 @@ std::wstring Columns(HWND list) {
     return columns.str();
 }
 
-// The height of a choice with its list, as it was made.
-int OpenedHeight(HWND choice) {
-    RECT opened{};
-    SendMessageW(choice, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&opened));
-    // Windows counts the closed box in; Wine leaves it out, as high as it was first.
-    const int height = Unscale(opened.bottom - opened.top);
-    return Scale(height > 190 && height < 220 ? 220 : height);
-}
-
 // The window as a line of the file has it.
 std::wstring Line(HWND window) {
     const std::wstring className = ClassOf(window);
@@ -74,7 +65,11 @@ std::wstring Line(HWND window) {
     RECT place = PlaceOf(window);
     std::wstring text = WindowText(window);
     if (className == L"ComboBox") {
-        place.bottom = OpenedHeight(window);
+        // With its list, as it was made. Windows counts the closed box in; Wine leaves it out.
+        RECT opened{};
+        SendMessageW(window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&opened));
+        const int height = Unscale(opened.bottom - opened.top);
+        place.bottom = Scale(height > 190 && height < 220 ? 220 : height);
         style &= ~DWORD{CBS_HASSTRINGS};  // which Windows adds
     }
     if (className == L"SysListView32") text = Columns(window);
