@@ -161,6 +161,7 @@ TEST_CASE("A record of any content is drawn") {
     CHECK(std::count_if(first.lines.begin(), first.lines.end(), [](const std::wstring& line) {
               return line.ends_with(L"...");  // each long text of a row, on its one line
           }) == 4);
+    CHECK(Shows(first, L"text 50,569,245,14 8pt 1E2933 left: a &\r\na &\r\n"));
     CHECK(Shows(first, L"text 42,985,732,18 7pt 657481 centre: Prepared"));
     CHECK(Shows(Page(estimate, 1), L"text 42,985,732,18 7pt 657481 centre: Prepared"));
 }
