@@ -41,11 +41,13 @@ TEST_CASE("A listing has the files that match, and no folder, until the visitor 
     for (const wchar_t* name : {L"b", L"a1", L"a2", L"a3"}) store.Put(name, Bytes{1});
     EnsureFolder(store.Path(L"a0"));
     std::wstring seen;
-    ForEachFile(store.EstimatesFolder, L"a*", [&seen](const std::wstring& name) {
-        seen += name;
-        return seen != L"a1a2";
-    });
-    CHECK(seen == L"a1a2");
+    const auto visit = [&seen](const std::wstring& name) {
+        seen += name + L" ";
+        return seen != L"a1 a2 ";
+    };
+    ForEachFile(store.Path(L"missing"), L"*", visit);
+    ForEachFile(store.EstimatesFolder, L"a*", visit);
+    CHECK(seen == L"a1 a2 ");
 }
 
 TEST_CASE("Error codes have the system's text on one line, or none") {
