@@ -31,6 +31,7 @@ class Recording {
     template <typename Draw>
     explicit Recording(const Draw& draw, const PageTransform& units = kStretched) : units_(units) {
         HDC dc = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+        SetBkMode(dc, OPAQUE);  // as every device begins, but not what plays a metafile
         const auto before = Selection(dc);
         draw(dc);
         tidy = Selection(dc) == before;
