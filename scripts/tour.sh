@@ -257,15 +257,10 @@ about() {
   gone '^About'
 }
 
-prepare_store() {
-  local base
+find_store() {
   base=$(wine cmd /c 'echo %LOCALAPPDATA%' 2>/dev/null | tr -d '\r')
   base=$(winepath -u "$base" 2>/dev/null)/NORVAK/Tessaline
   store=$base/Estimates
-  mkdir -p "$store"
-  rm -f "$store"/*.gfe
-  cp "$data/legacy-data.key" "$base/data.key"
-  cp "$data/legacy-estimate.gfe" "$store/older.gfe"
 }
 
 trap stop_printer EXIT
@@ -275,10 +270,14 @@ touch "$folder/started"
 # Before the program: Wine looks for printers when it starts.
 print=no
 if start_printer; then print=yes; else echo "No CUPS here: the tour does not print."; fi
-prepare_store
+find_store
+rm -rf "$store"
 wine "$program" >/dev/null 2>&1 &
 await '^Tessaline'
 picture 01-start
+[ -d "$store" ] || fail "the program made no folder for its files"
+cp "$data/legacy-data.key" "$base/data.key"
+cp "$data/legacy-estimate.gfe" "$store/older.gfe"
 fill_form
 add_items
 save_with_a_wrong_field

@@ -33,19 +33,21 @@ void MakeButtons(HWND parent, std::span<const ButtonRow> rows) {
     }
 }
 
+// By FieldKind.
+constexpr struct {
+    const wchar_t* className;
+    DWORD style, extendedStyle;
+} kKinds[] = {{L"EDIT", ES_AUTOHSCROLL, WS_EX_CLIENTEDGE},
+              {L"COMBOBOX", CBS_DROPDOWNLIST, WS_EX_CLIENTEDGE},
+              {L"BUTTON", BS_AUTOCHECKBOX, 0},
+              {L"EDIT", ES_MULTILINE | WS_VSCROLL, WS_EX_CLIENTEDGE}};
+
 void MakeField(HWND parent, const FieldRow& row) {
     if (row.labelBox.height > 0) Make(parent, L"STATIC", row.label, row.labelBox, small);
-    const bool isCheck = row.kind == FieldKind::kCheck, isChoice = row.kind == FieldKind::kChoice;
-    const DWORD style = isCheck                         ? BS_AUTOCHECKBOX
-                        : isChoice                      ? CBS_DROPDOWNLIST
-                        : row.kind == FieldKind::kNotes ? ES_MULTILINE | WS_VSCROLL
-                                                        : ES_AUTOHSCROLL;
-    const HWND field = Make(parent,
-                            isCheck    ? L"BUTTON"
-                            : isChoice ? L"COMBOBOX"
-                                       : L"EDIT",
-                            isCheck ? row.label : L"", row.fieldBox, plain, style,
-                            isCheck ? 0 : WS_EX_CLIENTEDGE);
+    const auto& kind = kKinds[static_cast<int>(row.kind)];
+    const wchar_t* text = row.flag != nullptr ? row.label : L"";
+    const HWND field =
+        Make(parent, kind.className, text, row.fieldBox, plain, kind.style, kind.extendedStyle);
     for (const wchar_t* entry : row.entries) {
         SendMessageW(field, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
     }

@@ -9,7 +9,6 @@
 
 namespace tessaline::bench {
 
-/// A piece of work.
 using Work = std::function<void()>;
 
 /// Milliseconds that `work` takes.
