@@ -12,7 +12,7 @@ cmake --preset checks >/dev/null && cmake --build --preset checks --target tessa
 trap stop_desktop EXIT
 start_display
 use_prefix "$PWD/build/wine-soak"
-export TZ=America/Chicago TESSALINE_SOAK=1 TESSALINE_ACTIONS=${TESSALINE_ACTIONS:-20000}
+export TZ=CST6CDT TESSALINE_SOAK=1 TESSALINE_ACTIONS=${TESSALINE_ACTIONS:-20000}
 mkdir -p build/soak
 program=build/checks/tests/tessaline_tests.exe
 failed=0
