@@ -14,7 +14,7 @@ double Milliseconds(const Work& work) {
         .count();
 }
 
-std::vector<double> Race(int rounds, const std::vector<std::function<double()>>& runners) {
+std::vector<double> Race(int rounds, const Runners& runners) {
     std::vector<std::vector<double>> results(runners.size());
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t i = 0; i < runners.size(); ++i) {
@@ -38,10 +38,10 @@ void Report(const char* name, double ours, double floor, double aim, const char*
 void Compare(const char* name, int repeats, double aim, const Work& ours, const Work& floor) {
     const auto repeated = [repeats](const Work& work) {
         return [repeats, &work] {
-            return Milliseconds([&] {
-                       for (int i = 0; i < repeats; ++i) work();
-                   }) /
-                   repeats;
+            const auto all = [&] {
+                for (int i = 0; i < repeats; ++i) work();
+            };
+            return Milliseconds(all) / repeats;
         };
     };
     const std::vector<double> times = Race(11, {repeated(ours), repeated(floor)});

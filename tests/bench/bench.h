@@ -10,13 +10,13 @@
 namespace tessaline::bench {
 
 using Work = std::function<void()>;
+using Runners = std::vector<std::function<double()>>;
 
 /// Milliseconds that `work` takes.
 [[nodiscard]] double Milliseconds(const Work& work);
 
 /// Lets all run in turns, and gives the median of each one's results.
-[[nodiscard]] std::vector<double> Race(int rounds,
-                                       const std::vector<std::function<double()>>& runners);
+[[nodiscard]] std::vector<double> Race(int rounds, const Runners& runners);
 
 /// Prints a row of the table; its value is how many times the floor we take, which is to be `aim`
 /// at most.

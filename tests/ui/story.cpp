@@ -31,7 +31,7 @@ namespace {
 // What is different in Windows while a story is played, and what it notices.
 struct {
     bool hasPrinter = false;
-    bool hasMemory = true;
+    std::wstring drive;
     std::wstring searches;
     HDC paper = nullptr;
 } windows;
@@ -46,7 +46,8 @@ BOOL WINAPI ChoosePrinter(LPPRINTDLGW dialog) {
 
 HANDLE WINAPI SearchFolder(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
     windows.searches += IsWaiting() ? L"waiting " : L"unnoticed ";
-    if (!windows.hasMemory) throw std::bad_alloc();
+    if (windows.drive == L"slow") Sleep(2000);
+    if (windows.drive == L"without memory") throw std::bad_alloc();
     return FindFirstFileExW(pattern, FindExInfoStandard, found, FindExSearchNameMatch, nullptr, 0);
 }
 
@@ -275,7 +276,7 @@ const std::map<std::wstring, void (*)(Story&)> kVerbs = {
         CHECK(SetValue(estimate, s.first, s.text));
         s.Bind(estimate); }},
     {L"printer", [](Story&) { windows.hasPrinter = true; }},
-    {L"starve", [](Story&) { windows.hasMemory = false; }},
+    {L"drive", [](Story& s) { windows.drive = s.words; }},
     {L"stretch", [](Story& s) {
         SetWindowPos(s.target, nullptr, 0, 0, s.Value(), s.Value() / 2, SWP_NOZORDER);
         CHECK(UpdateWindow(s.target)); }},
