@@ -38,10 +38,9 @@ void Report(const char* name, double ours, double floor, double aim, const char*
 void Compare(const char* name, int repeats, double aim, const Work& ours, const Work& floor) {
     const auto repeated = [repeats](const Work& work) {
         return [repeats, &work] {
-            const auto all = [&] {
-                for (int i = 0; i < repeats; ++i) work();
-            };
-            return Milliseconds(all) / repeats;
+            double all = 0;
+            for (int i = 0; i < repeats; ++i) all += Milliseconds(work);
+            return all / repeats;
         };
     };
     const std::vector<double> times = Race(11, {repeated(ours), repeated(floor)});
