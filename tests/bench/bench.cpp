@@ -22,13 +22,15 @@
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_file.h"
 #include "platform/controls.h"
+#include "platform/files.h"
 #include "platform/handles.h"
 #include "platform/theme.h"
 #include "store/catalogue.h"
+#include "store/envelope.h"
+#include "store/local_store.h"
 #include "store/lookup_window.h"
 #include "store/native_format.h"
 #include "store/revision.h"
-#include "tests/support/legacy_writer.h"
 #include "ui/sample_estimate.h"
 #include "ui/window_names.h"
 
@@ -219,19 +221,13 @@ void MeasurePayload(const std::wstring&) {
             [&] { BarePayload(estimate, room); });
 }
 
-void MeasureOlderFile(const std::wstring&) {
-    std::wstring document = LR"({"EstimateId": "GFE-20240229-235959", "Lines": [)";
-    for (int line = 0; line < 100; ++line) {
-        document +=
-            LR"({"ServiceItem": "Surgeon's fee, arthroscopy", "Quantity": 2, )"
-            LR"("ServiceAddress": "400 Capitol Avenue", "DiagnosisCode": "S83.242A", )"
-            LR"("ServiceCodeType": "CPT", "ServiceCode": "29882", "ExpectedCharge": 415.5}, )";
-    }
-    document += L"{}]}";
-    const TemporaryStore store;
-    const std::wstring path = store.Path(L"older.gfe");
+// The file stands with the tests' data, below the folder that all was built from.
+void MeasureOlderFile(const std::wstring& folder) {
+    const LocalStore store = LocalStoreBelow(folder);
+    const std::wstring path = L"tests\\data\\legacy-hundred-lines.gfe";
+    const Bytes key = ReadFileBytes(L"tests\\data\\legacy-data.key");
+    Demand(WriteFileBytes(store.BaseFolder + L"\\data.key", key));
     std::wstring error;
-    Demand(PutLegacyFile(store, L"older.gfe", document));
     const auto open = [&] {
         Estimate estimate;
         Demand(OpenLegacyEstimateFile(path, store, estimate, error));

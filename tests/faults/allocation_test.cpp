@@ -9,7 +9,6 @@
 
 #include "platform/controls.h"
 #include "store/catalogue.h"
-#include "tests/support/legacy_writer.h"
 #include "tests/support/readable.h"
 #include "tests/support/record_values.h"
 #include "tests/support/stand_in.h"
@@ -102,7 +101,8 @@ struct Form {
         Estimate other = DistinctEstimate();
         other.LastModifiedOn = 4'000'000'000;
         program.store.PutEstimate(L"full.gfe", other);
-        PutLegacyFile(program.store, L"older.gfe", FromUtf8(TestData(L"legacy-estimate.json")));
+        program.store.Put(L"..\\data.key", TestData(L"legacy-data.key"));
+        program.store.Put(L"older.gfe", TestData(L"legacy-estimate.gfe"));
         BindToForm(estimate);
         app.CurrentFilePath = program.store.Path(L"GFE-1.gfe");
         for (const HWND list : {app.linesList, app.separateList}) {
