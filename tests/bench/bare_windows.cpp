@@ -75,28 +75,22 @@ void MakeSection(HWND canvas, const SectionRow& row) {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int showState) {
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int showState) {
     InitCommonControls();
-    WNDCLASSW bare{};
-    bare.lpfnWndProc = DefWindowProcW;
-    bare.hInstance = instance;
-    bare.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    bare.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    bare.lpszClassName = L"BARE";
-    RegisterClassW(&bare);
     plain = MakeFont(9, FW_NORMAL);
     small = MakeFont(8, FW_NORMAL);
     strong = MakeFont(9, FW_SEMIBOLD);
     title = MakeFont(12, FW_SEMIBOLD);
-    const HWND window = Make(nullptr, L"BARE", L"Bare", {300, 60, 1320, 920}, nullptr,
+    const HWND window = Make(nullptr, L"STATIC", L"Bare", {300, 60, 1320, 920}, nullptr,
                              WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN);
-    Make(window, L"BARE", L"", {0, 0, 1312, 160});
-    const HWND bar = Make(window, L"BARE", L"", {18, 172, 1276, 82}, nullptr, 0, WS_EX_CLIENTEDGE);
+    Make(window, L"STATIC", L"", {0, 0, 1312, 160});
+    const HWND bar =
+        Make(window, L"STATIC", L"", {18, 172, 1276, 82}, nullptr, 0, WS_EX_CLIENTEDGE);
     MakeButtons(bar, BarButtons());
     MakeField(bar, StatusField());
     const HWND scroll =
-        Make(window, L"BARE", L"", {0, 266, 1312, 620}, nullptr, WS_CLIPCHILDREN | WS_VSCROLL);
-    const HWND canvas = Make(scroll, L"BARE", L"", {182, 0, 930, 1960});
+        Make(window, L"STATIC", L"", {0, 266, 1312, 620}, nullptr, WS_CLIPCHILDREN | WS_VSCROLL);
+    const HWND canvas = Make(scroll, L"STATIC", L"", {182, 0, 930, 1960});
     for (const SectionRow& row : FormSections()) MakeSection(canvas, row);
     ShowWindow(window, showState);
     UpdateWindow(window);

@@ -20,18 +20,6 @@ Estimate FullEstimate() {
     return RecordOf({L"page"});
 }
 
-/// The record whose fields "Name: value; ..." gives.
-template <typename Record = Estimate>
-Record RecordWith(const std::wstring& given) {
-    Record record;
-    std::wistringstream fields(given);
-    for (std::wstring field; std::getline(fields >> std::ws, field, L';');) {
-        const std::size_t colon = field.find(L": ");
-        REQUIRE(SetValue(record, field.substr(0, colon), field.substr(colon + 2)));
-    }
-    return record;
-}
-
 Recording Page(const Estimate& estimate, int pageIndex, bool printMode = false) {
     return Recording(
         [&](HDC dc) { DrawEstimatePage(dc, kStretched, estimate, pageIndex, printMode); });

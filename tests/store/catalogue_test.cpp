@@ -50,30 +50,20 @@ TEST_CASE("Patients and providers are told apart, and each is shown as used last
     using Text = const std::wstring&;
     const TemporaryStore store;
     int files = 0;
-    const auto put = [&](Estimate& estimate, Text used) {
+    const auto put = [&](Text given, Text used) {
+        auto estimate = RecordWith(given);
         estimate.Patient.Phone = estimate.Provider.Phone = used;
         estimate.LastModifiedOn = std::stoi(used);
         REQUIRE(store.PutEstimate(std::to_wstring(++files) + L".gfe", estimate));
     };
-    CheckRules(
-        L"catalogue.txt",
-        {{L"patient",
-          [&](Text first, Text last, Text birth, Text used) {
-              Estimate estimate;
-              estimate.Patient.FirstName = first;
-              estimate.Patient.LastName = last;
-              estimate.Patient.DateOfBirth = birth;
-              put(estimate, used);
-              return List(BuildPatientList(store), &PatientSummary::Patient);
-          }},
-         {L"provider", [&](Text name, Text npi, Text street, Text city, Text state, Text used) {
-              Estimate estimate;
-              estimate.Provider.OrganizationName = name;
-              estimate.Provider.Npi = npi;
-              estimate.Provider.Street = street;
-              estimate.Provider.City = city;
-              estimate.Provider.State = state;
-              put(estimate, used);
-              return List(BuildProviderList(store), &ProviderSummary::Provider);
-          }}});
+    CheckRules(L"catalogue.txt",
+               {{L"patient",
+                 [&](Text given, Text used) {
+                     put(given, used);
+                     return List(BuildPatientList(store), &PatientSummary::Patient);
+                 }},
+                {L"provider", [&](Text given, Text used) {
+                     put(given, used);
+                     return List(BuildProviderList(store), &ProviderSummary::Provider);
+                 }}});
 }

@@ -46,6 +46,18 @@ bool SetValue(Value& value, const std::wstring& path, const std::wstring& text) 
     return true;
 }
 
+/// The record whose fields "Name: value; ..." gives.
+template <typename Record = Estimate>
+Record RecordWith(const std::wstring& given) {
+    Record record;
+    std::wistringstream fields(given);
+    for (std::wstring field; std::getline(fields >> std::ws, field, L';');) {
+        const std::size_t colon = field.find(L": ");
+        REQUIRE(SetValue(record, field.substr(0, colon), field.substr(colon + 2)));
+    }
+    return record;
+}
+
 /// The record that these rules of record.txt describe.
 inline Estimate RecordOf(const std::set<std::wstring>& rules) {
     Estimate estimate;
