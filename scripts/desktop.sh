@@ -1,8 +1,9 @@
-# A display, a Wine prefix and a PDF printer of our own. Sourced by the commands.
+# A display, a Wine prefix and a printer of our own. Sourced by the commands.
 
 export WINEDEBUG=-all
-# Keeps a new prefix from asking for add-ons that the program does not need.
-export WINEDLLOVERRIDES='mscoree=;mshtml='
+# Keeps a new prefix from asking for add-ons that the program does not need, and Start menu entries
+# from being copied into the Linux desktop's.
+export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
 
 desktop_pids=()
 # Only a prefix of our own is ever used, or stopped.
@@ -47,8 +48,10 @@ use_prefix() {
   echo "Making a Wine prefix"
   wineboot -i >/dev/null 2>&1
   winecfg -v win10 >/dev/null 2>&1
+  # The caption's symbols are in this font, which a new prefix does not find.
+  cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts"
   # Open Sans is the closest that Debian has to Segoe UI. Without "Managed"="N" Wine waits two
-  # seconds for a window manager whenever a window closes.
+  # seconds for a window manager whenever a window closes. The colours are of a light frame.
   cat >"$WINEPREFIX/settings.reg" <<'REG'
 Windows Registry Editor Version 5.00
 
@@ -58,6 +61,16 @@ Windows Registry Editor Version 5.00
 [HKEY_CURRENT_USER\Software\Wine\X11 Driver]
 "Managed"="N"
 
+[HKEY_CURRENT_USER\Control Panel\Colors]
+"ActiveBorder"="240 240 240"
+"ActiveTitle"="243 243 243"
+"GradientActiveTitle"="243 243 243"
+"GradientInactiveTitle"="243 243 243"
+"InactiveBorder"="240 240 240"
+"InactiveTitle"="243 243 243"
+"InactiveTitleText"="130 130 130"
+"TitleText"="0 0 0"
+
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
 REG
@@ -66,31 +79,59 @@ REG
   touch "$WINEPREFIX/ready"
 }
 
-# A printer named PDF that is the default and writes into ~/PDF. False where there is no CUPS.
+# A printer of our own, the default one, on a print server of our own: nothing of the machine's is
+# changed. Its last job is $printer_folder/job.ps. False where there is no CUPS, or no root for it.
 start_printer() {
-  [ -x /usr/sbin/cupsd ] || return 1
-  if ! lpstat -r 2>/dev/null | grep -q 'is running'; then
-    [ "$(id -u)" -eq 0 ] || return 1
-    /usr/sbin/cupsd -f >/dev/null 2>&1 &
-    desktop_pids+=($!)
-    local tries=0
-    until lpstat -r 2>/dev/null | grep -q 'is running'; do
-      sleep 0.1
-      tries=$((tries + 1))
-      [ $tries -lt 100 ] || return 1
-    done
-  fi
-  lpstat -p PDF >/dev/null 2>&1 ||
-    lpadmin -p PDF -v cups-pdf:/ -m lsb/usr/cups-pdf/CUPS-PDF_opt.ppd -o PageSize=Letter -E \
-      2>/dev/null || return 1
-  # Programs take the default printer; `stop_printer` gives the earlier one back.
-  printer_default=$(lpstat -d 2>/dev/null | sed -n 's/^system default destination: //p')
-  lpadmin -d PDF
+  [ -x /usr/sbin/cupsd ] && [ "$(id -u)" -eq 0 ] || return 1
+  local PATH=$PATH:/usr/sbin
+  # A short path: the name of a socket has room for 100 characters.
+  printer_folder=$(mktemp -d /tmp/tessaline-printer.XXXXXX)
+  mkdir -p "$printer_folder"/{root,spool,cache,state,tmp}
+  # Filters run as another user.
+  chmod 755 "$printer_folder"
+  chmod 1777 "$printer_folder/tmp"
+  cat >"$printer_folder/cupsd.conf" <<CONF
+Listen $printer_folder/socket
+DefaultAuthType None
+WebInterface No
+<Location />
+  Allow all
+</Location>
+<Policy default>
+  <Limit All>
+    Allow all
+  </Limit>
+</Policy>
+CONF
+  cat >"$printer_folder/cups-files.conf" <<CONF
+FileDevice Yes
+ServerRoot $printer_folder/root
+RequestRoot $printer_folder/spool
+CacheDir $printer_folder/cache
+StateDir $printer_folder/state
+TempDir $printer_folder/tmp
+AccessLog $printer_folder/access
+ErrorLog $printer_folder/errors
+PageLog $printer_folder/pages
+CONF
+  /usr/sbin/cupsd -f -c "$printer_folder/cupsd.conf" -s "$printer_folder/cups-files.conf" \
+    >/dev/null 2>&1 &
+  desktop_pids+=($!)
+  export CUPS_SERVER=$printer_folder/socket
+  local tries=0
+  until lpstat -r 2>/dev/null | grep -q 'is running'; do
+    sleep 0.1
+    tries=$((tries + 1))
+    [ $tries -lt 100 ] || return 1
+  done
+  lpadmin -p PDF -v "file:$printer_folder/job.ps" -P /usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd \
+    -o PageSize=Letter -E 2>/dev/null && lpadmin -d PDF
 }
 
 stop_printer() {
-  [ -n "${printer_default:-}" ] && lpadmin -d "$printer_default" 2>/dev/null
   local pid
-  for pid in "${desktop_pids[@]}"; do kill "$pid" 2>/dev/null; done
-  return 0
+  for pid in "${desktop_pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  # The server removes files of its own as it ends.
+  for pid in "${desktop_pids[@]}"; do wait "$pid" 2>/dev/null || true; done
+  [ -z "${printer_folder:-}" ] || rm -rf "$printer_folder"
 }

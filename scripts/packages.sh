@@ -3,7 +3,9 @@
 kBuildPackages=(g++-mingw-w64-x86-64 cmake ninja-build)
 kRunPackages=(wine wine64 xvfb xauth x11-utils fonts-open-sans fonts-wine)
 kTourPackages=(imagemagick xdotool cups cups-client printer-driver-cups-pdf ghostscript poppler-utils)
-kTestPackages=(doctest-dev clang clang-tidy clang-format libclang-rt-14-dev)
+kPackagePackages=(nsis imagemagick python3 python3-markdown)
+kTestPackages=(doctest-dev clang clang-tidy clang-format libclang-rt-14-dev
+  python3-cryptography)
 
 need_packages() {
   local missing=() package

@@ -33,7 +33,8 @@ gone() {
   fail "$1 does not close"
 }
 
-# Taken once the screen stands still, but for a blinking caret.
+# Taken once the screen stands still, but for a blinking caret. Of a window that is named, there
+# is a picture of its own in the folder `windows`.
 picture() {
   local last=$folder/last.png now=$folder/$1.png different
   sleep 0.3
@@ -46,6 +47,15 @@ picture() {
     [ "${different%%.*}" -lt 100 ] && break
   done
   rm -f "$last"
+  [ -z "${2:-}" ] || cut_out "$now" "$2"
+}
+
+cut_out() {
+  local X Y WIDTH HEIGHT
+  eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name "$2" |
+    tail -n 1)" | grep -E '^(X|Y|WIDTH|HEIGHT)=[0-9]+$')"
+  mkdir -p "$folder/windows"
+  /usr/bin/convert "$1" -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$folder/windows/${1##*/}"
 }
 click() { xdotool mousemove "$1" "$2" click 1; sleep 0.1; }
 key() { xdotool key --delay 30 "$@"; sleep 0.1; }
@@ -89,14 +99,14 @@ item() {
     first=0
     [ -z "$cell" ] || write "$cell"
   done
-  [ -z "${7:-}" ] || picture "$7"
+  [ -z "${7:-}" ] || picture "$7" '^Expected Item'
   key Return
   gone '^Expected Item'
 }
 
 answer() {
   await "$1"
-  [ -z "${2:-}" ] || picture "$2"
+  [ -z "${2:-}" ] || picture "$2" "$1"
   key Return
   gone "$1"
 }
@@ -104,7 +114,7 @@ answer() {
 preview() {
   press 80 1898
   await '^Print Preview'
-  picture "$1"
+  picture "$1" '^Print Preview'
   click 670 99
   picture "$2"
   key alt+F4
@@ -115,7 +125,7 @@ preview() {
 choose() {
   await "$1"
   write "$2"
-  picture "$3"
+  picture "$3" "$1"
   xdotool mousemove 620 406 click --repeat 2 --delay 60 1
   gone "$1"
 }
@@ -167,12 +177,13 @@ add_items() {
   item 'Crutches, adjustable aluminium, pair, with hand grips and tips' '' '' E0114 1 48
   item 'Office visit, established patient' '400 Capitol Avenue' M25.562 99213 2 145
   item 'Post-operative brace' '' S83.242A L1832 1 615
+  picture 04-items '^Tessaline'
   press 60 1592
   await '^Separately'
   write Anesthesia
   key Tab
   write 'Capital Anesthesia Group gives its own estimate: (555) 555-0190.'
-  picture 04-separate-dialog
+  picture 05-separate-dialog
   key Tab Return
   gone '^Separately'
   picture 05-lists
@@ -182,28 +193,28 @@ save_with_a_wrong_field() {
   bar 188 35
   answer '^Saved$'
   reach 0
-  picture 06-wrong-field-marked
+  picture 06-wrong-field-marked '^Tessaline'
   press 80 1898
   answer '^Check Estimate$' 07-check-estimate
   field 604 134 ann.lee@example.com
+  bar 188 35
+  answer '^Saved$'
+  picture 07-form '^Tessaline'
 }
 
 print_estimate() {
   press 180 1898
   await '^Print$'
-  picture 10-print-dialog
+  picture 10-print-dialog '^Print$'
   key Return
   gone '^Print$'
   # The job is in the spooler when the program goes on; the file follows a little later.
-  local pdf
   for _ in $(seq 150); do
-    pdf=$(find ~/PDF -name '*Good_Faith_Estimate*.pdf' -newer "$folder/started" 2>/dev/null |
-      head -n 1)
-    [ -n "$pdf" ] && pdfinfo "$pdf" >/dev/null 2>&1 && break
+    [ -z "$(lpstat -o)" ] && [ -s "$printer_folder/job.ps" ] && break
     sleep 0.2
   done
-  [ -n "$pdf" ] || fail "the printed PDF does not appear"
-  mv "$pdf" "$folder/estimate.pdf"
+  [ -s "$printer_folder/job.ps" ] || fail "the printed file does not appear"
+  ps2pdf "$printer_folder/job.ps" "$folder/estimate.pdf"
   pdftoppm -r 96 -png "$folder/estimate.pdf" "$folder/printed"
 }
 
@@ -252,7 +263,7 @@ open_again() {
 about() {
   bar 895 30
   await '^About'
-  picture 23-about
+  picture 23-about '^About'
   key Escape
   gone '^About'
 }
@@ -266,7 +277,6 @@ find_store() {
 trap stop_printer EXIT
 rm -rf "$folder"
 mkdir -p "$folder"
-touch "$folder/started"
 # Before the program: Wine looks for printers when it starts.
 print=no
 if start_printer; then print=yes; else echo "No CUPS here: the tour does not print."; fi
@@ -294,5 +304,4 @@ wait $!
 # An automatic save may have come at any time, so there may be more files than these.
 [ "$(ls "$store" | grep -c -- '-R1\.gfe$')" -eq 1 ] || fail "there should be one revision"
 cmp -s "$data/legacy-estimate.gfe" "$store/older.gfe" || fail "the older file has changed"
-rm "$folder/started"
 echo "The tour is over. Its pictures are in $folder"

@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Checks what the built program is made of: its protections, what it needs beside it, its resources.
-# Usage: executable_test.sh PROGRAM.
+# Usage: executable_test.sh PROGRAM [VERSION]. The version is the project's where none is given.
 set -uo pipefail
 program=$1
+project=$(dirname "$0")/../CMakeLists.txt
+version=${2:-$(sed -n 's/^project(Tessaline VERSION \([0-9.]*\).*/\1/p' "$project")}
 failures=0
 
 # check WHAT TEXT PATTERN: some line of the text matches. check_not: none does, in a text that is there.
@@ -25,10 +27,15 @@ check 'and a table of them' "$headers" '^Entry 5 [0-9a-f]+ 0*[1-9a-f][0-9a-f]* B
 sections=$(x86_64-w64-mingw32-objdump -h "$program")
 check 'there is code' "$sections" 'READONLY.*CODE'
 check_not 'no code can be written' "$sections" 'LOAD, CODE'
-grep -qaF 'stack smashing detected' "$program"
-check 'the stack is guarded' $? '^0$'
+# The guard is our own: libssp's start-up code loads libraries from beside the program.
+grep -qaE 'stack smashing detected|CryptAcquireContext' "$program"
+check 'nothing of libssp is in it' $? '^1$'
+check 'it says that it is for Windows 7 and later' "$headers" '^MajorSubsystemVersion\s+6$'
+check 'and for terminal servers' "$headers" '^DllCharacteristics\s+0000[8-f]'
 
 libraries=$(sed -n 's/.*DLL Name: //p' <<<"$headers" | tr '[:upper:]' '[:lower:]')
+# Windows takes its known libraries from the system folder alone, and the common controls by the
+# manifest. All others are loaded later, when the program has limited where they are looked for.
 foreign=$(grep -vxE '(advapi32|comctl32|comdlg32|gdi32|kernel32|msvcrt|shell32|user32)\.dll' \
   <<<"$libraries")
 check 'it needs nothing but Windows' "Others: $foreign" '^Others: $'
@@ -44,12 +51,12 @@ check 'icon and banner have their numbers' \
 check 'the banner is 1600 by 180 in full colour' "$(sed -n '/^102 2 /,/^END/p' <<<"$resources")" \
   '^ +0x28L *, 0x640L *, 0xb4L *, 0x180001L'
 for value in FileVersion ProductVersion; do
-  check "the $value is 3.0.6" "$resources" "VALUE \"$value\", \"3\.0\.6\""
+  check "the $value is $version" "$resources" "VALUE \"$value\", \"${version//./\\.}\""
 done
-check 'the numbers are those of 3.0.6' "$resources" '^ FILEVERSION 3, 0, 6, 0'
+check "the numbers are those of $version" "$resources" "^ FILEVERSION ${version//./, }, 0"
 manifest=$(sed -n '/^1 24 /,/^END/p' <<<"$resources")
-for part in 'Microsoft\.Windows\.Common-Controls' 'level=""asInvoker""' '>system<' \
-  '\{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a\}'; do
+for part in "version=\"\"${version//./\\.}\.0\"\"" 'Microsoft\.Windows\.Common-Controls' \
+  'level=""asInvoker""' '>system<' '\{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a\}'; do
   check "the manifest has $part" "$manifest" "$part"
 done
 exit $((failures > 0))

@@ -26,7 +26,7 @@ expect 'Capital Anesthesia Group gives its own estimate'
 
 # Grey tones only, but for the slightly bluish body and muted texts: nowhere may a pixel be colourful.
 for page in "$folder"/printed-*.png; do
-  saturation=$(convert "$page" -colorspace HCL -channel G -separate -format '%[fx:maxima]' info:)
+  saturation=$(/usr/bin/convert "$page" -colorspace HCL -channel G -separate -format '%[fx:maxima]' info:)
   awk -v s="$saturation" 'BEGIN { exit !(s < 0.20) }' || {
     echo "$page is colourful: $saturation"
     exit 1
