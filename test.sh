@@ -7,8 +7,9 @@ cd "$(dirname "$0")"
 . scripts/desktop.sh
 
 need_packages "${kBuildPackages[@]}" "${kRunPackages[@]}" "${kTourPackages[@]}" \
-  "${kTestPackages[@]}"
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
+  "${kTestPackages[@]}" "${kPackagePackages[@]}"
+# Also what is not added yet.
+git -c safe.directory='*' ls-files --cached --others --exclude-standard '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
 
 cmake --preset checks >/dev/null
 cmake --build --preset checks

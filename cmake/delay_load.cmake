@@ -3,8 +3,9 @@
 # common controls come with the manifest; bcrypt and crypt32 are neither. They are loaded when first
 # called, after the entry point has limited the search to the system folder.
 if(MSVC)
-  target_link_libraries(tessaline_options INTERFACE bcrypt crypt32)
-  target_link_options(tessaline_options INTERFACE /DEPENDENTLOADFLAG:0x800)
+  target_link_libraries(tessaline_options INTERFACE bcrypt crypt32 delayimp)
+  target_link_options(tessaline_options INTERFACE
+    /DEPENDENTLOADFLAG:0x800 /DELAYLOAD:bcrypt.dll /DELAYLOAD:crypt32.dll)
   return()
 endif()
 

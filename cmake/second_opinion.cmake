@@ -7,12 +7,12 @@ if(TESSALINE_SECOND_OPINION)
   execute_process(
     COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=include/c++
     OUTPUT_VARIABLE libstdcxx OUTPUT_STRIP_TRAILING_WHITESPACE)
+  list(TRANSFORM TESSALINE_INCLUDES PREPEND -I OUTPUT_VARIABLE includes)
+  list(TRANSFORM TESSALINE_DEFINITIONS PREPEND -D OUTPUT_VARIABLE definitions)
   set(TESSALINE_CLANG_FLAGS
     --target=x86_64-w64-mingw32 -std=c++20
     -isystem ${libstdcxx} -isystem ${libstdcxx}/x86_64-w64-mingw32
-    -I${PROJECT_SOURCE_DIR} -isystem ${PROJECT_BINARY_DIR}/include
-    -DUNICODE -D_UNICODE -DNOMINMAX -DWIN32_LEAN_AND_MEAN -DSTRICT -D_WIN32_WINNT=0x0A00
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    ${includes} -isystem ${PROJECT_BINARY_DIR}/include ${definitions} ${TESSALINE_WARNINGS})
 endif()
 
 function(tessaline_second_opinion target)

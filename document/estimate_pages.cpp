@@ -80,8 +80,8 @@ void DrawParties(HDC dc, const PageTransform& transform, const Estimate& estimat
 
 void DrawCareOverview(HDC dc, const PageTransform& transform, const Estimate& estimate,
                       bool printMode) {
-    // The pairs are 49 high but 41 apart: the second line of a long value runs into the label
-    // below. The positions are fixed, so it does.
+    // The pairs are 49 high but 41 apart, so the second line of a long value runs into the label
+    // below. Page 1 has no room to move them apart: with six items it is full down to the rights.
     DrawSectionBox(dc, transform, {42, 376, 732, 112}, L"Care Overview", printMode);
     DrawLabeledValue(dc, transform, L"Primary service / item", estimate.PrimaryService, 55, 410,
                      330, printMode);
@@ -121,8 +121,8 @@ void DrawSecondPageTitle(HDC dc, const PageTransform& transform, const Estimate&
     FillPageRect(dc, transform, {42, 96, 732, 3}, kRuleFill.In(printMode));
 }
 
-// The parts of page 2 follow one another as far as they are there: each takes its top and gives
-// back that of the next.
+// The parts of page 2 follow one another, as far as the estimate has them: each takes its top and
+// returns the top of the next.
 
 int DrawContinuedItems(HDC dc, const PageTransform& transform, const Estimate& estimate, int y,
                        bool printMode) {
@@ -152,7 +152,8 @@ int DrawSeparateItems(HDC dc, const PageTransform& transform, const Estimate& es
 
 int DrawNotes(HDC dc, const PageTransform& transform, const Estimate& estimate, int y,
               bool printMode) {
-    // Blank notes do not ask for a second page, but on one that is there they have their box.
+    // Notes that are only blanks do not make a second page necessary (see `PageCount`), but they
+    // have their box on one that is there.
     if (estimate.ProviderNotes.empty()) return y;
     DrawSectionBox(dc, transform, {42, y, 732, 120}, L"Provider / Facility Notes", printMode);
     DrawPageText(dc, transform, estimate.ProviderNotes.c_str(), {56, y + 42, 704, 65},

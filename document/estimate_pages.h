@@ -1,7 +1,7 @@
 // The printed Good Faith Estimate: how many pages an estimate takes and what stands where on them.
 // The same pages serve the preview and the printer; print mode draws them in grey. Text that does
-// not fit its place is clipped there, and page 2 takes every remaining line even past its foot:
-// there is no third page.
+// not fit its place is clipped there. Page 2 takes all the lines that are left, and draws those
+// that do not fit below its foot, where they are lost: there is no third page.
 #pragma once
 
 #include <windows.h>

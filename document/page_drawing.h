@@ -1,7 +1,7 @@
 // The primitives from which the document is drawn, in page units on any device context. Each call
 // creates the fonts, pens and brushes that it needs and deletes them before it returns: nothing is
 // kept between calls, and what was selected into the context before is selected again after. Only
-// the background mode and the text colour stay changed. GDI failures are not looked at.
+// the background mode and the text colour stay changed. GDI failures are ignored.
 #pragma once
 
 #include <windows.h>

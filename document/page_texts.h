@@ -1,5 +1,5 @@
-// The texts of the document that are put together from several fields. Lines are separated by
-// "\n"; a piece whose field is empty is left out together with its caption.
+// The texts of the document that combine several fields. Lines are separated by "\n". A field that
+// is empty is left out together with its caption, unless stated otherwise.
 #pragma once
 
 #include <string>
@@ -8,23 +8,24 @@
 
 namespace tessaline {
 
-/// Where the law's own information about good faith estimates and disputes is to be had.
+/// Where the government informs about good faith estimates and disputes.
 inline constexpr wchar_t kFederalWebAddress[] = L"www.cms.gov/nosurprises";
 inline constexpr wchar_t kFederalHelpLine[] = L"1-800-985-3059";
 
-/// Name, date of birth with account, postal address, telephone with e-mail.
+/// Four lines: name; date of birth and account; postal address; telephone and e-mail.
 [[nodiscard]] std::wstring PatientBlock(const PatientInfo& patient);
 
-/// Name, kind, postal address, contact, telephone with e-mail, website, NPI with TIN.
+/// Seven lines: name; type; postal address; contact; telephone and e-mail; website; NPI and TIN.
 [[nodiscard]] std::wstring ProviderBlock(const ProviderInfo& provider);
 
-/// The dates as entered, or that there are none yet.
+/// The scheduled dates as entered, or "Not yet scheduled".
 [[nodiscard]] std::wstring ScheduledValue(const Estimate& estimate);
 
-/// Coverage, trigger, delivery and status, a line each; here an empty value keeps its caption.
+/// Four lines with captions: coverage, trigger, delivery and status. A caption stays when its
+/// field is empty.
 [[nodiscard]] std::wstring EstimateInformation(const Estimate& estimate);
 
-/// The patient's rights, which the law wants on every estimate.
+/// The patient's rights, which 45 CFR 149.610 requires on every estimate.
 [[nodiscard]] std::wstring RightsText();
 
 /// The line at the foot of every page.

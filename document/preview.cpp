@@ -23,7 +23,9 @@ struct PreviewState {
     HWND pageLabel = nullptr;
 };
 
-// Places are in pixels; the preview does not scale with the screen.
+// Places are in pixels of the screen. The page takes whatever the window leaves and is scaled by
+// that alone; `PreviewTransform` keeps a strip of 55 pixels free above it, for which these places
+// are made. So nothing here is scaled by the screen's DPI.
 HWND MakeChild(HWND parent, const wchar_t* windowClass, const wchar_t* text, int id,
                const RECT& place, DWORD style) {
     return CreateWindowExW(0, windowClass, text, WS_CHILD | WS_VISIBLE | style, place.left,
@@ -61,8 +63,8 @@ void PaintPreview(HWND window, const PreviewState& state) {
     const PageTransform transform = PreviewTransform(client.right, client.bottom);
     const RECT page = PageArea(transform);
 
-    // The page begins with a white background of its own, so neither this fill nor the outline
-    // stays to be seen. That is known and wanted: the sheet has no edge but its colour.
+    // Marks the sheet's place until the page is drawn, which takes a moment on a remote screen.
+    // The page then covers both with its own white, so the sheet ends where its white does.
     const BrushOwner white(CreateSolidBrush(kPageBackground));
     FillRect(paint.Get(), &page, white.Get());
     FrameDeviceRect(paint.Get(), page, kPreviewOutline, 1);
@@ -76,6 +78,10 @@ LRESULT HandlePreview(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CREATE:
             MakeChildren(window, *state);
             return 0;
+        case WM_SIZE:
+            // The page is scaled to the window, but Windows asks only for the new part of it.
+            InvalidateRect(window, nullptr, TRUE);
+            return 0;
         case WM_COMMAND:
             TurnPage(window, *state, LOWORD(wParam));
             return 0;
@@ -83,7 +89,7 @@ LRESULT HandlePreview(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
             PaintPreview(window, *state);
             return 0;
         case WM_NCDESTROY: {
-            const auto ending = TakeWindowState<PreviewState>(window);
+            const auto finished = TakeWindowState<PreviewState>(window);
             return DefWindowProcW(window, message, wParam, lParam);
         }
         default:

@@ -12,7 +12,7 @@ namespace tessaline {
 /// A property that is a number of bytes, such as BCRYPT_OBJECT_LENGTH; 0 on failure.
 [[nodiscard]] ULONG SizeProperty(BCRYPT_HANDLE object, const wchar_t* name);
 
-/// CNG declares its inputs as if it wrote to them. It does not.
+/// CNG declares its inputs as pointers to non-const, although it only reads them.
 [[nodiscard]] inline PUCHAR CngInput(const std::uint8_t* bytes) {
     return const_cast<PUCHAR>(bytes);
 }

@@ -1,5 +1,5 @@
-// The reader of the older edition's JSON. It takes everything that is well-formed and, because
-// those files were always read this way, some things that are not: see `ParseValue`.
+// The reader of the older edition's JSON. It accepts everything that is well-formed and some
+// things that are not, as the older edition's own reader did: see `ParseValue`.
 #pragma once
 
 #include <cstddef>
@@ -28,20 +28,20 @@ using JsonText = std::pmr::wstring;
 using JsonMembers = std::pmr::map<JsonText, JsonValue, std::less<>>;  ///< by code units
 using JsonItems = std::pmr::vector<JsonValue>;
 
-/// One value with everything in it. A new copy is deep, and lives in the common heap.
+/// One value with everything in it.
 struct JsonValue {
     /// In the order of the kinds.
     std::variant<std::monostate, bool, double, JsonText, JsonMembers, JsonItems> content;
 
     [[nodiscard]] JsonKind Kind() const { return static_cast<JsonKind>(content.index()); }
 
-    // Not every library's map says that it moves without throwing. A growing vector would then
-    // copy whole trees, once for every level above them.
+    // Not copied: moving a map takes memory in Microsoft's library, and a vector whose elements
+    // may throw when they move would copy whole trees, once for every level above them.
     JsonValue() = default;
-    JsonValue(const JsonValue&) = default;
-    JsonValue(JsonValue&&) noexcept = default;
-    JsonValue& operator=(const JsonValue&) = default;
-    JsonValue& operator=(JsonValue&&) noexcept = default;
+    JsonValue(const JsonValue&) = delete;
+    JsonValue(JsonValue&&) = default;  // NOLINT(performance-noexcept-move-constructor): see above
+    JsonValue& operator=(const JsonValue&) = delete;
+    JsonValue& operator=(JsonValue&&) = default;  // NOLINT(performance-noexcept-move-constructor)
     ~JsonValue() = default;
 };
 

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "platform/bytes.h"
+#include "platform/local_store.h"
 #include "platform/secret_bytes.h"
-#include "store/local_store.h"
 
 namespace tessaline {
 

@@ -6,7 +6,6 @@
 #include "legacy/json.h"
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_mapping.h"
-#include "platform/files.h"
 
 namespace tessaline {
 namespace {
@@ -24,9 +23,9 @@ std::wstring_view WideText(ByteView utf8, DocumentMemory& memory) {
 
 }  // namespace
 
-bool OpenLegacyEstimateFile(const std::wstring& path, const LocalStore& store, Estimate& estimate,
-                            std::wstring& error) {
-    const SecretBytes plaintext = DecryptLegacyFile(ReadFileBytes(path), store, error);
+bool ReadLegacyEstimate(ByteView content, const LocalStore& store, Estimate& estimate,
+                        std::wstring& error) {
+    const SecretBytes plaintext = DecryptLegacyFile(content, store, error);
     if (plaintext.empty()) return false;
     DocumentMemory memory;
     JsonValue root;

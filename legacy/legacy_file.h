@@ -1,18 +1,20 @@
-// Opening a file of the older edition. These files are only ever read: saving writes a native file
-// and leaves the old one as it is.
+// Reads a file of the older edition. The program never writes one: saving writes a native file and
+// does not overwrite the old one (store/estimate_file.h).
 #pragma once
 
 #include <string>
 
 #include "model/estimate.h"
-#include "store/local_store.h"
+#include "platform/bytes.h"
+#include "platform/local_store.h"
 
 namespace tessaline {
 
-/// Fills `estimate`, which must be a default record, from the older edition's file at `path`. On
-/// false throw it away; `error` then holds the text for the user, or stays as it was for a file
-/// that is too short for one of these, lacks their "GFE2", or decrypts to nothing at all.
-[[nodiscard]] bool OpenLegacyEstimateFile(const std::wstring& path, const LocalStore& store,
-                                          Estimate& estimate, std::wstring& error);
+/// Fills `estimate`, which must be a default record, from the content of a file of the older
+/// edition; `store` says where its key is. On false throw the record away; `error` then holds the
+/// text for the user, or stays as it was for content that is too short, lacks "GFE2" at its front,
+/// or decrypts to nothing at all.
+[[nodiscard]] bool ReadLegacyEstimate(ByteView content, const LocalStore& store,
+                                      Estimate& estimate, std::wstring& error);
 
 }  // namespace tessaline

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string>
 
+#include "platform/local_store.h"
 #include "platform/secret_bytes.h"
-#include "store/local_store.h"
 
 namespace tessaline {
 

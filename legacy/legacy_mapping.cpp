@@ -122,8 +122,8 @@ std::int64_t ParseLegacyTime(std::wstring_view text) {
     const year_month_day date(year(yearNumber), month(static_cast<unsigned>(monthNumber)),
                               day(static_cast<unsigned>(dayNumber)));
     if (!date.ok()) return 0;
-    const std::int64_t days = sys_days(date).time_since_epoch().count();
-    const std::int64_t stamp = ((days * 24 + hour) * 60 + minute) * 60 + second;
+    const std::int64_t dayCount = sys_days(date).time_since_epoch().count();
+    const std::int64_t stamp = ((dayCount * 24 + hour) * 60 + minute) * 60 + second;
     return std::max<std::int64_t>(stamp, 0);
 }
 

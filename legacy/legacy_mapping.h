@@ -15,7 +15,7 @@ namespace tessaline {
 ///
 /// What is missing or of another kind than its field counts as empty text, 0 or false, not as the
 /// field's default; only the patient's contact preference is then "Email". Texts are not checked
-/// against the values that the form offers. `ReservedFlag` stays as it is.
+/// against the values that the form offers. Other members stay as they are.
 [[nodiscard]] bool MapLegacyEstimate(const JsonValue& root, Estimate& estimate);
 
 /// Reads year-month-day and, as far as they are there, "T" hour:minute:second, as the scan format

@@ -35,13 +35,6 @@ std::int64_t NowSeconds() {
     return std::chrono::duration_cast<Ticks>(now).count() / Ticks::period::den;
 }
 
-std::chrono::year_month_day LocalToday() {
-    const std::tm local = LocalTime(NowSeconds()).value_or(std::tm{});
-    return std::chrono::year{local.tm_year + 1900} /
-           std::chrono::month{static_cast<unsigned>(local.tm_mon + 1)} /
-           std::chrono::day{static_cast<unsigned>(local.tm_mday)};
-}
-
 std::wstring NewEstimateId() {
     const std::tm local = LocalTime(NowSeconds()).value_or(std::tm{});
     std::array<wchar_t, 64> id{};
@@ -55,7 +48,11 @@ std::wstring FormatTimestamp(std::int64_t stamp, bool withTime) {
     const std::optional<std::tm> local = LocalTime(stamp);
     if (!local) return {};
     std::array<wchar_t, 64> text{};
-    const wchar_t* format = withTime ? L"%m/%d/%Y %I:%M %p" : L"%m/%d/%Y";
+    // Its "%p" would be in the language of the process's locale.
+    const bool isMorning = local->tm_hour < 12;
+    const wchar_t* format = !withTime   ? L"%m/%d/%Y"
+                            : isMorning ? L"%m/%d/%Y %I:%M AM"
+                                        : L"%m/%d/%Y %I:%M PM";
     return {text.data(), std::wcsftime(text.data(), text.size(), format, &*local)};
 }
 

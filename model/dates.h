@@ -13,9 +13,6 @@ namespace tessaline {
 /// The current moment as a time stamp.
 [[nodiscard]] std::int64_t NowSeconds();
 
-/// Today in local time.
-[[nodiscard]] std::chrono::year_month_day LocalToday();
-
 /// An identifier for the current second of local time, such as GFE-20260307-140509. Two made
 /// within one second are equal.
 [[nodiscard]] std::wstring NewEstimateId();

@@ -1,6 +1,6 @@
-// The one description of the record's fields: their names and members in stored order. The native
-// reader and writer, the import of the older edition's files and the tests all walk these rows, so
-// a new field is one row here.
+// The names and members of the fields that version 1 of the native payload and the older edition's
+// files hold, in stored order. Both formats are closed, so these rows never change: a row added
+// here would make every saved file unreadable. A new field goes to store/native_versions.h.
 #pragma once
 
 #include <tuple>
@@ -66,7 +66,6 @@ inline constexpr auto kProviderFields = std::tuple{
     Field{L"Website", &ProviderInfo::Website},
 };
 
-/// The fields that both file formats hold. `ReservedFlag` follows them in the native format alone.
 inline constexpr auto kEstimateFields = std::tuple{
     Field{L"EstimateId", &Estimate::EstimateId},
     Field{L"RootEstimateId", &Estimate::RootEstimateId},

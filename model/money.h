@@ -15,7 +15,8 @@ namespace tessaline {
 /// above 0.
 [[nodiscard]] double ParseMoneyText(std::wstring_view text);
 
-/// Reads a quantity. Whatever is below 1 or no number becomes 1; this is wanted, not an error.
+/// Reads a quantity. Whatever is below 1 or no number becomes 1, which is what an empty or
+/// mistyped quantity nearly always stands for; the total in the list shows it at once.
 [[nodiscard]] std::int32_t ParseQuantityText(std::wstring_view text);
 
 }  // namespace tessaline

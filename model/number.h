@@ -1,5 +1,5 @@
-// Numbers read from typed text and from files, as leniently as the C library reads them but with
-// every outcome defined: what does not fit is clamped.
+// Reads numbers from typed text and from files, as leniently as the C library, but with a defined
+// result for every input: a number that does not fit is clamped.
 #pragma once
 
 #include <cstdint>

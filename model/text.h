@@ -18,7 +18,7 @@ namespace tessaline {
 /// Keeps the characters "0" to "9", in order.
 [[nodiscard]] std::wstring DigitsOnly(std::wstring_view text);
 
-/// Upper case, each character by itself, by the current locale; the length stays.
+/// Upper case by the current locale, character by character, so that the length stays the same.
 [[nodiscard]] std::wstring ToUpper(std::wstring_view text);
 
 /// Lower case, likewise.

@@ -38,11 +38,12 @@ std::wstring CheckAccountLast4(std::wstring_view text) {
     return fourDigits ? L"" : L"Use exactly 4 digits.";
 }
 
-std::wstring CheckDateOfBirth(std::wstring_view text, bool required) {
+std::wstring CheckDateOfBirth(std::wstring_view text, bool required,
+                              std::chrono::year_month_day today) {
     if (IsBlank(text)) return required ? L"Date of birth is required." : L"";
     const auto date = ParseDate(text);
     if (!date) return L"Enter a valid date (MM/DD/YYYY).";
-    return *date > LocalToday() ? L"Date of birth cannot be in the future." : L"";
+    return *date > today ? L"Date of birth cannot be in the future." : L"";
 }
 
 std::wstring CheckEmail(std::wstring_view text) {
@@ -66,14 +67,14 @@ std::wstring CheckZip(std::wstring_view text) {
     return digits == 5 || digits == 9 ? L"" : L"Enter a 5-digit ZIP or ZIP+4.";
 }
 
-std::wstring ValidateEstimate(const Estimate& estimate) {
+std::wstring ValidateEstimate(const Estimate& estimate, std::chrono::year_month_day today) {
     if (IsBlank(estimate.Provider.OrganizationName)) {
         return L"Enter the estimating provider / facility name.";
     }
     if (IsBlank(estimate.Patient.FirstName) || IsBlank(estimate.Patient.LastName)) {
         return L"Enter the patient's first and last name.";
     }
-    std::wstring birth = CheckDateOfBirth(estimate.Patient.DateOfBirth, true);
+    std::wstring birth = CheckDateOfBirth(estimate.Patient.DateOfBirth, true, today);
     if (!birth.empty()) return birth;
     if (IsBlank(estimate.PrimaryService)) return L"Enter the primary service or item.";
     return CheckLines(estimate);

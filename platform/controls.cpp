@@ -50,10 +50,21 @@ LRESULT CALLBACK PassTabAndEscape(HWND edit, UINT message, WPARAM wParam, LPARAM
                                   UINT_PTR id, DWORD_PTR) {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, PassTabAndEscape, id);
     if (message != WM_GETDLGCODE) return DefSubclassProc(edit, message, wParam, lParam);
-    // An edit that is asked this itself takes itself for a dialog's, and leaves Enter to a default
-    // button.
+    // IsDialogMessageW asks the focused control which keys it wants. The edit itself is not asked:
+    // its answer would claim every key, and once asked it treats Enter as the default button's.
     const bool forDialog = wParam == VK_TAB || wParam == VK_ESCAPE;
     return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (forDialog ? 0 : DLGC_WANTALLKEYS);
+}
+
+// A closed drop-down list changes its selection when the wheel turns over it. The form is scrolled
+// with the wheel, and passing over a list must not change the record.
+LRESULT CALLBACK PassWheel(HWND choice, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                           DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(choice, PassWheel, id);
+    const bool passes =
+        message == WM_MOUSEWHEEL && SendMessageW(choice, CB_GETDROPPEDSTATE, 0, 0) == FALSE;
+    if (passes) return SendMessageW(GetParent(choice), message, wParam, lParam);
+    return DefSubclassProc(choice, message, wParam, lParam);
 }
 
 }  // namespace
@@ -81,6 +92,7 @@ HWND MakeChoice(HWND parent, int id, const Box& box, Entries entries) {
         SendMessageW(choice, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
     }
     SendMessageW(choice, CB_SETCURSEL, 0, 0);
+    SetWindowSubclass(choice, PassWheel, 1, 0);
     return choice;
 }
 
@@ -102,9 +114,13 @@ LRESULT ColourLabel(WPARAM context, COLORREF colour, HBRUSH background) {
     return reinterpret_cast<LRESULT>(background);
 }
 
+LRESULT ColourButton(HBRUSH background) {
+    return reinterpret_cast<LRESULT>(background);
+}
+
 std::wstring WindowText(HWND window) {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-    // The length may be too large an estimate; what is copied decides.
+    // Windows may report more characters than the text has; the number copied is exact.
     const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
     text.resize(static_cast<std::size_t>(length));
     return text;

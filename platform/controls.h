@@ -18,20 +18,20 @@ struct Box {
     int height = 0;
 };
 
-/// The height to give a drop-down list: Windows takes it for the opened list.
+/// The height of a drop-down list when it is open, which is the one that Windows asks for.
 inline constexpr int kChoiceHeight = 220;
 
 using Entries = std::span<const wchar_t* const>;
 
-/// A static text; the ordinary font when none is given.
+/// A static text, in `uiFont` when no font is given.
 HWND MakeLabel(HWND parent, const wchar_t* text, const Box& box, HFONT font = nullptr,
                DWORD extraStyle = 0);
 
 /// A framed edit that scrolls sideways.
 HWND MakeEdit(HWND parent, int id, const Box& box, DWORD extraStyle = 0);
 
-/// Lets Tab and Escape work for the dialog also while the focus is in an edit of several lines,
-/// which would otherwise keep them. Enter goes on starting a new line there.
+/// Lets Tab and Escape work in a dialog while the focus is in an edit of several lines, which
+/// would otherwise take them as input. Enter still starts a new line there.
 void LeaveKeysToDialog(HWND edit);
 
 /// A drop-down list with its first entry selected.
@@ -46,6 +46,10 @@ HWND MakeCheckBox(HWND parent, int id, const wchar_t* text, const Box& box);
 /// Answers WM_CTLCOLORSTATIC: the text of a label in `colour` on its parent's own background,
 /// which `background` is.
 LRESULT ColourLabel(WPARAM context, COLORREF colour, HBRUSH background);
+
+/// Answers WM_CTLCOLORBTN: some versions of Windows draw the rim of a push button with the brush
+/// that its parent names, and grey where it names none. `background` is the parent's own.
+LRESULT ColourButton(HBRUSH background);
 
 /// The whole text of a window, as it stands.
 [[nodiscard]] std::wstring WindowText(HWND window);

@@ -28,19 +28,60 @@ std::wstring ParentFolder(const std::wstring& path) {
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
 }
 
+// Some network and memory disks have no flushing; what is written to them is written.
+bool CanFlush(DWORD error) {
+    return error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED;
+}
+
+// Null for a file that could not be opened.
+std::optional<LONGLONG> SizeOf(const FileOwner& file) {
+    LARGE_INTEGER size{};
+    if (!file || !GetFileSizeEx(file.Get(), &size)) return std::nullopt;
+    return size.QuadPart;
+}
+
+std::optional<Bytes> ReadStart(const FileOwner& file, LONGLONG size) {
+    Bytes bytes(static_cast<std::size_t>(size));
+    DWORD read = 0;
+    const DWORD wanted = static_cast<DWORD>(bytes.size());
+    // A file that shrank since its size was taken gives fewer bytes; a read error gives none.
+    if (!ReadFile(file.Get(), bytes.data(), wanted, &read, nullptr)) return std::nullopt;
+    bytes.resize(read);
+    return bytes;
+}
+
 }  // namespace
 
 Bytes ReadFileBytes(const std::wstring& path) {
     const FileOwner file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
-    LARGE_INTEGER size{};
-    if (!file || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kLargestFile) return {};
-    Bytes bytes(static_cast<std::size_t>(size.QuadPart));
-    DWORD read = 0;
-    const DWORD wanted = static_cast<DWORD>(bytes.size());
-    // A file that shrank since its size was taken gives fewer bytes; a read error gives none.
-    if (!ReadFile(file.Get(), bytes.data(), wanted, &read, nullptr)) return {};
-    bytes.resize(read);
-    return bytes;
+    const std::optional<LONGLONG> size = SizeOf(file);
+    if (!size || *size > kLargestFile) return {};
+    return ReadStart(file, *size).value_or(Bytes());
+}
+
+std::optional<Bytes> ReadFileStart(const std::wstring& path, std::uint32_t most) {
+    const FileOwner file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+    const DWORD error = GetLastError();
+    const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+    if (!file && isMissing) return Bytes();
+    const std::optional<LONGLONG> size = SizeOf(file);
+    if (!size) return std::nullopt;
+    return ReadStart(file, std::min<LONGLONG>(*size, most));
+}
+
+bool MoveFileAside(const std::wstring& path, const std::wstring& folder) {
+    if (!EnsureFolder(folder)) return false;
+    const std::wstring name = path.substr(path.find_last_of(L"\\/") + 1);
+    const std::size_t dot = std::min(name.rfind(L'.'), name.size());
+    const std::wstring place = folder + L"\\";
+    std::wstring free = name;
+    for (int number = 2; !MoveFileW(path.c_str(), (place + free).c_str()); ++number) {
+        const DWORD error = GetLastError();
+        if (error != ERROR_ALREADY_EXISTS && error != ERROR_FILE_EXISTS) return false;
+        free = name;
+        free.insert(dot, L" ()").insert(dot + 2, std::to_wstring(number));
+    }
+    return true;
 }
 
 bool WriteFileBytes(const std::wstring& path, ByteView bytes) {
@@ -48,7 +89,8 @@ bool WriteFileBytes(const std::wstring& path, ByteView bytes) {
     const FileOwner file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
     if (!file) return false;
     while (!bytes.empty()) {
-        const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
+        const DWORD chunk =
+            static_cast<DWORD>(std::min<std::size_t>(bytes.size(), std::size_t{1} << 30U));
         DWORD written = 0;
         if (!WriteFile(file.Get(), bytes.data(), chunk, &written, nullptr) || written == 0) {
             return false;
@@ -56,7 +98,7 @@ bool WriteFileBytes(const std::wstring& path, ByteView bytes) {
         bytes = bytes.subspan(written);
     }
     // "Saved" is said only when a pulled plug can no longer take it back.
-    return FlushFileBuffers(file.Get()) != 0;
+    return FlushFileBuffers(file.Get()) != 0 || !CanFlush(GetLastError());
 }
 
 bool EnsureFolder(const std::wstring& path) {

@@ -3,8 +3,10 @@
 
 #include <windows.h>
 
+#include <array>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/controls.h"
 
@@ -12,10 +14,36 @@ namespace tessaline {
 
 /// One column; its width is in pixels at 96 DPI.
 struct ListColumn {
-    const wchar_t* title;
-    int width;
+    const wchar_t* title = nullptr;
+    int width = 0;
     bool right = false;  ///< right-aligned, else left-aligned
 };
+
+/// A column of a table, with what an element shows in it.
+template <typename Element>
+struct TableColumn {
+    ListColumn column;
+    std::wstring (*cell)(const Element& element);
+};
+
+/// The columns of a table alone, as a list view takes them.
+template <typename Element, std::size_t Count>
+[[nodiscard]] constexpr std::array<ListColumn, Count> ColumnsOf(
+    const TableColumn<Element> (&table)[Count]) {
+    std::array<ListColumn, Count> columns{};
+    for (std::size_t at = 0; at < Count; ++at) columns[at] = table[at].column;
+    return columns;
+}
+
+/// The texts of an element's row, one for each column.
+template <typename Element, std::size_t Count>
+[[nodiscard]] std::vector<std::wstring> CellsOf(const TableColumn<Element> (&table)[Count],
+                                                const Element& element) {
+    std::vector<std::wstring> cells;
+    cells.reserve(Count);
+    for (const auto& column : table) cells.push_back(column.cell(element));
+    return cells;
+}
 
 /// A list with single selection, whole rows selected, grid lines and double buffering.
 HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColumn> columns);

@@ -2,12 +2,15 @@
 
 #include <optional>
 
+#include "platform/controls.h"
+#include "platform/scale.h"
+#include "platform/theme.h"
 #include "platform/window.h"
 
 namespace tessaline {
 namespace {
 
-// Runs until the window is done. Returns the exit code of a quit message that came in between.
+// Runs until the window is done. Returns the exit code when a quit message ended it.
 std::optional<int> PumpMessages(const ModalState& modal) {
     MSG message{};
     while (!modal.Done && IsWindow(modal.window)) {
@@ -23,6 +26,14 @@ std::optional<int> PumpMessages(const ModalState& modal) {
 
 }  // namespace
 
+HWND MakeModalWindow(const ModalWindow& description, HWND owner, void* state) {
+    RegisterWindowClass({description.className, description.procedure, description.background});
+    return CreateWindowExW(WS_EX_DLGMODALFRAME, description.className, description.title,
+                           WS_CAPTION | WS_SYSMENU | description.extraStyle, CW_USEDEFAULT,
+                           CW_USEDEFAULT, Scale(description.width), Scale(description.height),
+                           owner, nullptr, ProgramInstance(), state);
+}
+
 bool RunModal(ModalState& modal) {
     const HWND focusBefore = GetFocus();
     modal.ownerWasEnabled = IsWindowEnabled(modal.owner) != FALSE;
@@ -36,6 +47,22 @@ bool RunModal(ModalState& modal) {
     if (IsChild(modal.owner, focusBefore)) SetFocus(focusBefore);
     if (quitCode) PostQuitMessage(*quitCode);
     return modal.Accepted;
+}
+
+LRESULT HandleModalMessage(ModalState& modal, HWND window, UINT message, WPARAM wParam,
+                           LPARAM lParam) {
+    if (KeepFocus(window, message, wParam)) return 0;
+    switch (message) {
+        case WM_CTLCOLORBTN:
+            return ColourButton(modal.background);
+        case WM_CTLCOLORSTATIC:
+            return ColourLabel(wParam, kInkColour, modal.background);
+        case WM_CLOSE:
+            EndModal(modal, false);
+            return 0;
+        default:
+            return DefWindowProcW(window, message, wParam, lParam);
+    }
 }
 
 void EndModal(ModalState& modal, bool accepted) {

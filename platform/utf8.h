@@ -1,5 +1,5 @@
-// Conversion between the record's UTF-16 and the UTF-8 of files, by the platform's own rules: what
-// is ill-formed is replaced by U+FFFD, never refused.
+// Conversion between the record's UTF-16 and the UTF-8 of files. Windows does it, so ill-formed
+// text is replaced by U+FFFD and never refused.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,7 @@
 #include "platform/window.h"
 
+#include <algorithm>
+
 #include "platform/message_box.h"
 
 namespace tessaline {
@@ -7,13 +9,25 @@ namespace {
 
 constexpr wchar_t kFocusProperty[] = L"Tessaline.Focus";
 
-RECT WorkArea() {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
+// The part of a window's monitor that the task bar leaves free; for null, the main monitor's.
+RECT WorkAreaAround(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(window, window == nullptr ? MONITOR_DEFAULTTOPRIMARY
+                                                                : MONITOR_DEFAULTTONEAREST),
+                    &monitor);
+    return monitor.rcWork;
 }
 
-// Whose box tells the user that a message was given up; null where nobody waits for its outcome.
+// Where a side of the given length begins so that it lies in the middle of another one, but inside
+// the work area. Where it is longer than the work area, the far end is cut off.
+int CentredStart(int length, int start, int end, int areaStart, int areaEnd) {
+    const int centred = start + ((end - start) - length) / 2;
+    return std::max(areaStart, std::min(centred, areaEnd - length));
+}
+
+// The owner of the message box that reports a message given up; null for messages that the user
+// did not cause, which end silently.
 HWND OwnerOfBox(HWND window, UINT message) {
     switch (message) {
         case WM_CREATE:
@@ -48,13 +62,19 @@ void RegisterWindowClass(const WindowClass& windowClass) {
 }
 
 void CentreWindow(HWND window, HWND reference) {
+    // The place of a minimised window is not one on the screen, a maximised one has its own.
+    if (IsIconic(window) || IsZoomed(window)) return;
+    const bool isThere = reference != nullptr && IsWindow(reference);
+    const RECT area = WorkAreaAround(isThere ? reference : nullptr);
+    RECT around = area;
+    if (isThere && !IsIconic(reference)) GetWindowRect(reference, &around);
     RECT own{};
     GetWindowRect(window, &own);
-    RECT around = WorkArea();
-    if (reference != nullptr && IsWindow(reference)) GetWindowRect(reference, &around);
-    const int left = around.left + ((around.right - around.left) - (own.right - own.left)) / 2;
-    const int top = around.top + ((around.bottom - around.top) - (own.bottom - own.top)) / 2;
-    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    const int left =
+        CentredStart(own.right - own.left, around.left, around.right, area.left, area.right);
+    const int top =
+        CentredStart(own.bottom - own.top, around.top, around.bottom, area.top, area.bottom);
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 bool KeepFocus(HWND window, UINT message, WPARAM wParam) {

@@ -24,8 +24,10 @@ struct WindowClass {
 /// call this each time it opens.
 void RegisterWindowClass(const WindowClass& windowClass);
 
-/// Centres a window over `reference`, or over the desktop's work area where that is null or no
-/// window. Size and Z order stay.
+/// Centres a window over `reference`, or in the work area of its monitor where that is minimised,
+/// null or no window. No title bar leaves the work area: a window that does not fit there begins
+/// at its left or top edge. Size, Z order and activation stay; a minimised or maximised window
+/// stays where it is.
 void CentreWindow(HWND window, HWND reference);
 
 /// The state of a window: the creation parameter, remembered with WM_NCCREATE. Null for the
@@ -41,8 +43,8 @@ template <typename State>
 }
 
 /// The state of a window that owns it. The creation parameter is the `unique_ptr` that holds the
-/// state so far; from WM_NCCREATE on it is the window's, also when its creation
-/// fails later. Give it back with `TakeWindowState`.
+/// state so far. From WM_NCCREATE on the window owns it, also when its creation fails later.
+/// `TakeWindowState` takes it back.
 template <typename State>
 [[nodiscard]] State* OwnedWindowState(HWND window, UINT message, LPARAM lParam) {
     if (message == WM_NCCREATE) {
@@ -66,8 +68,9 @@ template <typename State>
 /// handled.
 [[nodiscard]] bool KeepFocus(HWND window, UINT message, WPARAM wParam);
 
-/// What a window does with a message whose handling ran out of memory: creation fails, closing is
-/// put off, anything else is left to Windows. Where the user waits for an outcome, a box says so.
+/// Handles a message whose own handling ran out of memory: creation fails, closing does nothing,
+/// and anything else goes to the default procedure. After commands the user is told in a message
+/// box.
 LRESULT AnswerAfterException(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 using MessageHandler = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);

@@ -1,5 +1,6 @@
 // The saved estimates, patients and providers. The files are the only database: every call reads
-// all of them anew, and a file that cannot be read is left out without a word.
+// all of them anew. A file that cannot be read is left out and its message dropped, so that one
+// damaged file does not stand between the clerk and the others.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +8,7 @@
 #include <vector>
 
 #include "model/estimate.h"
-#include "store/local_store.h"
+#include "platform/local_store.h"
 
 namespace tessaline {
 
@@ -17,14 +18,14 @@ struct SavedEstimateEntry {
     Estimate Record;
 };
 
-/// A patient as the latest of the estimates for this patient has it.
+/// A patient, as in the latest of the estimates for this patient.
 struct PatientSummary {
     PatientInfo Patient;
     std::int64_t LastUsed = 0;  ///< the latest modification among these estimates
     std::int32_t EstimateCount = 0;
 };
 
-/// A provider or facility as the latest of its estimates has it.
+/// A provider or facility, as in the latest of its estimates.
 struct ProviderSummary {
     ProviderInfo Provider;
     std::int64_t LastUsed = 0;  ///< the latest modification among these estimates

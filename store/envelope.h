@@ -17,8 +17,8 @@ inline constexpr std::array<std::uint8_t, 4> kNativeMarker = {'G', 'F', 'N', '1'
 /// The content of a file that holds `payload`. Empty on failure, with `error` set.
 [[nodiscard]] Bytes ProtectEstimateData(ByteView payload, std::wstring& error);
 
-/// The payload in the content of a file. Empty on failure, with `error` set; also empty, with
-/// `error` as it was, for a blob over nothing.
+/// The payload in the content of a file. Empty on failure, with `error` set. A blob that holds no
+/// bytes at all also gives an empty payload, without an error.
 [[nodiscard]] SecretBytes UnprotectEstimateData(ByteView content, std::wstring& error);
 
 }  // namespace tessaline

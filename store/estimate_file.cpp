@@ -1,6 +1,7 @@
 #include "store/estimate_file.h"
 
 #include <cstdint>
+#include <optional>
 
 #include "legacy/legacy_cipher.h"
 #include "legacy/legacy_file.h"
@@ -26,6 +27,16 @@ bool ReadNativeFile(ByteView content, Estimate& estimate, std::wstring& error) {
     return !payload.empty() && ReadNativeEstimate(payload, estimate, error);
 }
 
+// A file of the older edition may be the clinic's only copy of a record, so one that a save would
+// overwrite is moved away first. False when it cannot be moved, or when the file cannot be read
+// and might be one.
+bool PutOlderFileAside(const LocalStore& store, const std::wstring& path) {
+    const std::optional<Bytes> start = ReadFileStart(path, sizeof(kLegacyMarker));
+    if (!start) return false;
+    if (KindOfEstimateFile(*start) != EstimateFileKind::kLegacy) return true;
+    return MoveFileAside(path, store.BaseFolder + L"\\Older edition");
+}
+
 }  // namespace
 
 EstimateFileKind KindOfEstimateFile(ByteView content) {
@@ -44,7 +55,7 @@ bool SaveEstimate(const LocalStore& store, Estimate& estimate, std::wstring& pat
     const Bytes content = ProtectEstimateData(WriteNativeEstimate(estimate), error);
     if (content.empty()) return false;
     path = EstimateFilePath(store, estimate.EstimateId);
-    if (WriteFileBytes(path, content)) return true;
+    if (PutOlderFileAside(store, path) && WriteFileBytes(path, content)) return true;
     error = L"Could not write the estimate file.";
     return false;
 }
@@ -60,8 +71,7 @@ bool LoadEstimateFile(const LocalStore& store, const std::wstring& path, Estimat
         case EstimateFileKind::kNative:
             return ReadNativeFile(content, estimate, error);
         case EstimateFileKind::kLegacy:
-            // Reads the file again: they are few, and this spares the mapping a second way in.
-            return OpenLegacyEstimateFile(path, store, estimate, error);
+            return ReadLegacyEstimate(content, store, estimate, error);
         case EstimateFileKind::kUnknown:
             break;
     }

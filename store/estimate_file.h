@@ -6,7 +6,7 @@
 
 #include "model/estimate.h"
 #include "platform/bytes.h"
-#include "store/local_store.h"
+#include "platform/local_store.h"
 
 namespace tessaline {
 
@@ -21,8 +21,11 @@ enum class EstimateFileKind { kNative, kLegacy, kUnknown };
                                             const std::wstring& estimateId);
 
 /// Stamps `estimate` (its missing identifiers and creation time, and always its modification) and
-/// writes it, over an earlier file of that identifier. `path` receives the file's path as soon as
-/// it is known. On false, `error` holds the text for the user; the stamps stay.
+/// writes it, over an earlier file of that identifier. A file of the older edition in that place
+/// is not overwritten: it is moved, unchanged, into the folder "Older edition" beside the
+/// estimates folder first. `path` receives the file's path as soon as it is known. On false,
+/// `error` holds the text for the user; the stamps stay, and a file of the older edition is still
+/// whole.
 [[nodiscard]] bool SaveEstimate(const LocalStore& store, Estimate& estimate, std::wstring& path,
                                 std::wstring& error);
 

@@ -10,16 +10,45 @@
 namespace tessaline {
 namespace {
 
-constexpr ListColumn kPatientColumns[] = {
-    {L"Patient", 220}, {L"DOB", 100}, {L"Phone", 130}, {L"Last Used", 140}, {L"GFEs", 70}};
-constexpr ListColumn kProviderColumns[] = {{L"Provider / Facility", 240},
-                                           {L"NPI", 120},
-                                           {L"Phone", 130},
-                                           {L"Location", 180},
-                                           {L"GFEs", 70}};
-constexpr ListColumn kEstimateColumns[] = {{L"Estimate", 160},        {L"Patient", 180},
-                                           {L"Primary Service", 250}, {L"Total", 90},
-                                           {L"Status", 90},           {L"Date", 100}};
+std::wstring PlaceOf(const ProviderInfo& provider) {
+    return provider.State.empty() ? provider.City : provider.City + L", " + provider.State;
+}
+
+// clang-format off
+constexpr TableColumn<PatientSummary> kPatientTable[] = {
+    {{L"Patient", 220}, [](const PatientSummary& s) { return JoinName(s.Patient); }},
+    {{L"DOB", 100}, [](const PatientSummary& s) { return s.Patient.DateOfBirth; }},
+    {{L"Phone", 130}, [](const PatientSummary& s) { return s.Patient.Phone; }},
+    {{L"Last Used", 140},
+     [](const PatientSummary& s) { return FormatTimestamp(s.LastUsed, false); }},
+    {{L"GFEs", 70}, [](const PatientSummary& s) { return std::to_wstring(s.EstimateCount); }},
+};
+
+constexpr TableColumn<ProviderSummary> kProviderTable[] = {
+    {{L"Provider / Facility", 240},
+     [](const ProviderSummary& s) { return s.Provider.OrganizationName; }},
+    {{L"NPI", 120}, [](const ProviderSummary& s) { return s.Provider.Npi; }},
+    {{L"Phone", 130}, [](const ProviderSummary& s) { return s.Provider.Phone; }},
+    {{L"Location", 180}, [](const ProviderSummary& s) { return PlaceOf(s.Provider); }},
+    {{L"GFEs", 70}, [](const ProviderSummary& s) { return std::to_wstring(s.EstimateCount); }},
+};
+
+constexpr TableColumn<SavedEstimateEntry> kEstimateTable[] = {
+    {{L"Estimate", 160}, [](const SavedEstimateEntry& e) { return e.Record.EstimateId; }},
+    {{L"Patient", 180}, [](const SavedEstimateEntry& e) { return JoinName(e.Record.Patient); }},
+    {{L"Primary Service", 250},
+     [](const SavedEstimateEntry& e) { return e.Record.PrimaryService; }},
+    {{L"Total", 90},
+     [](const SavedEstimateEntry& e) { return FormatMoney(TotalExpectedCharge(e.Record)); }},
+    {{L"Status", 90}, [](const SavedEstimateEntry& e) { return e.Record.EstimateStatus; }},
+    {{L"Date", 100},
+     [](const SavedEstimateEntry& e) { return FormatTimestamp(e.Record.LastModifiedOn, false); }},
+};
+// clang-format on
+
+constexpr auto kPatientColumns = ColumnsOf(kPatientTable);
+constexpr auto kProviderColumns = ColumnsOf(kProviderTable);
+constexpr auto kEstimateColumns = ColumnsOf(kEstimateTable);
 
 // The fields that a search looks in, with single blanks between them.
 std::wstring SearchText(std::initializer_list<std::wstring_view> fields) {
@@ -34,30 +63,22 @@ std::wstring SearchText(std::initializer_list<std::wstring_view> fields) {
 
 LookupRow MakeRow(const PatientSummary& summary) {
     const PatientInfo& patient = summary.Patient;
-    const std::wstring name = JoinName(patient);
-    return {{name, patient.DateOfBirth, patient.Phone, FormatTimestamp(summary.LastUsed, false),
-             std::to_wstring(summary.EstimateCount)},
-            SearchText({name, patient.DateOfBirth, patient.Phone, patient.Email})};
+    return {CellsOf(kPatientTable, summary),
+            SearchText({JoinName(patient), patient.DateOfBirth, patient.Phone, patient.Email})};
 }
 
 LookupRow MakeRow(const ProviderSummary& summary) {
     const ProviderInfo& provider = summary.Provider;
-    std::wstring location = provider.City;
-    if (!provider.State.empty()) location += L", " + provider.State;
-    return {{provider.OrganizationName, provider.Npi, provider.Phone, location,
-             std::to_wstring(summary.EstimateCount)},
+    return {CellsOf(kProviderTable, summary),
             SearchText({provider.OrganizationName, provider.Npi, provider.Phone, provider.Email,
                         provider.City})};
 }
 
 LookupRow MakeRow(const SavedEstimateEntry& entry) {
     const Estimate& estimate = entry.Record;
-    const std::wstring name = JoinName(estimate.Patient);
-    return {
-        {estimate.EstimateId, name, estimate.PrimaryService,
-         FormatMoney(TotalExpectedCharge(estimate)), estimate.EstimateStatus,
-         FormatTimestamp(estimate.LastModifiedOn, false)},
-        SearchText({estimate.EstimateId, name, estimate.PrimaryService, estimate.EstimateStatus})};
+    return {CellsOf(kEstimateTable, entry),
+            SearchText({estimate.EstimateId, JoinName(estimate.Patient), estimate.PrimaryService,
+                        estimate.EstimateStatus})};
 }
 
 template <typename Element>

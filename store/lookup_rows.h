@@ -1,7 +1,6 @@
 // The rows of the lookup window: what each element of a list shows, and what a search finds it by.
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <vector>
@@ -11,11 +10,9 @@
 
 namespace tessaline {
 
-inline constexpr std::size_t kMostLookupColumns = 6;
-
 /// One row, in the order of the list that it was made from.
 struct LookupRow {
-    std::array<std::wstring, kMostLookupColumns> cells;
+    std::vector<std::wstring> cells;
     std::wstring searchText;  ///< in lower case
 };
 

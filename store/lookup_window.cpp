@@ -8,7 +8,6 @@
 #include "platform/controls.h"
 #include "platform/list_view.h"
 #include "platform/message_box.h"
-#include "platform/scale.h"
 #include "platform/theme.h"
 #include "platform/window.h"
 
@@ -70,15 +69,14 @@ void Confirm(LookupState& state) {
 void HandleCommand(LookupState& state, int id, int notification) {
     if (id == kCancelButton) EndModal(state, false);
     if (id == kSearchBox && notification == EN_CHANGE) FillLookupList(state);
-    // Edits send further codes, all above, for their focus and their drawing: those confirm
-    // nothing.
+    // The search box sends its notifications (EN_SETFOCUS and above) under the same ID; a click
+    // has code 0.
     if (id == kConfirmButton && notification < EN_SETFOCUS) Confirm(state);
 }
 
 LRESULT HandleLookupMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* const state = WindowState<LookupState>(window, message, lParam);
     if (state == nullptr) return DefWindowProcW(window, message, wParam, lParam);
-    if (KeepFocus(window, message, wParam)) return 0;
     switch (message) {
         case WM_CREATE:
             BuildControls(window, *state);
@@ -92,37 +90,28 @@ LRESULT HandleLookupMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             SendMessageW(window, WM_COMMAND, MAKEWPARAM(kConfirmButton, BN_CLICKED), 0);
             return 0;
         }
-        case WM_CTLCOLORSTATIC:
-            return ColourLabel(wParam, kInkColour, CurrentTheme().pageBrush.Get());
-        case WM_CLOSE:
-            EndModal(*state, false);
-            return 0;
         default:
             break;
     }
-    return DefWindowProcW(window, message, wParam, lParam);
+    return HandleModalMessage(*state, window, message, wParam, lParam);
 }
 
 }  // namespace
 
 int ShowLookup(LookupState& state, const wchar_t* title) {
-    RegisterWindowClass(
-        {kLookupClass, GuardedProcedure<HandleLookupMessage>, CurrentTheme().pageBrush.Get()});
-    const HWND window =
-        CreateWindowExW(WS_EX_DLGMODALFRAME, kLookupClass, title,
-                        WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, CW_USEDEFAULT, CW_USEDEFAULT,
-                        Scale(820), Scale(525), state.owner, nullptr, ProgramInstance(), &state);
-    return window != nullptr && RunModal(state) ? kLookupChosen : kLookupCancelled;
+    const bool chosen = ShowModal({kLookupClass, GuardedProcedure<HandleLookupMessage>,
+                                   CurrentTheme().pageBrush.Get(), title, 820, 525, WS_THICKFRAME},
+                                  state);
+    return chosen ? kLookupChosen : kLookupCancelled;
 }
 
 void FillLookupList(const LookupState& state) {
     const std::wstring wanted = ToLower(Trim(WindowText(state.searchBox)));
     const ListFill fill(state.list, state.rows.size());
-    const std::size_t columns = ModeOf(state).columns().size();
     LPARAM index = 0;
     for (const LookupRow& row : state.rows) {
         if (row.searchText.find(wanted) != std::wstring::npos) {
-            AppendListRow(state.list, index, std::span(row.cells).first(columns));
+            AppendListRow(state.list, index, row.cells);
         }
         ++index;
     }

@@ -34,7 +34,7 @@ inline constexpr int kLookupCancelled = 2;
 /// holds.
 [[nodiscard]] int ShowLookup(LookupState& state, const wchar_t* title);
 
-/// Fills the list with the rows that the search box's text finds, in the order of the full list.
+/// Shows the rows that contain the search box's text, in the order of the full list.
 void FillLookupList(const LookupState& state);
 
 }  // namespace tessaline

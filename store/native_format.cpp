@@ -9,19 +9,18 @@
 #include <type_traits>
 #include <vector>
 
-#include "model/estimate_fields.h"
 #include "platform/utf8.h"
+#include "store/native_versions.h"
 
 namespace tessaline {
 namespace {
 
-// Numbers lie in the payload as they lie in memory.
+// Numbers are copied between payload and memory as they are.
 static_assert(std::endian::native == std::endian::little);
 static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
 
 constexpr std::array<std::uint8_t, 4> kMagic = {'G', 'F', 'E', 'D'};
-constexpr std::uint32_t kVersion = 1;
-constexpr std::size_t kHead = kMagic.size() + sizeof(kVersion);
+constexpr std::size_t kHead = kMagic.size() + sizeof(kNewestVersion);
 constexpr std::uint32_t kMostElements = 1000;
 constexpr std::uint32_t kLongestText = 16 * 1024 * 1024;  // bytes
 
@@ -75,14 +74,14 @@ class Writer {
     SecretBytes& bytes_;
 };
 
-// Walks the payload. A field that runs past the end or a text that is too long makes the payload
-// damaged, which the end of the walk reports: numbers and counts are read on from where the cursor
-// stands, so that an impossible count is reported as such.
+// Walks the payload. A field that runs past the end, or a text that is too long, makes the payload
+// damaged. The walk goes on from where it stands and the damage is reported at its end; only a
+// list count above the limit ends the walk at once, and its message takes precedence.
 class Reader {
   public:
     explicit Reader(ByteView rest) : rest_(rest) {}
 
-    /// What the user is told; null when all has been read.
+    /// The text for the user; null when every field has been read.
     [[nodiscard]] const wchar_t* Failure() const {
         if (badCount_ != nullptr) return badCount_;
         return damaged_ ? L"The estimate file is incomplete or damaged." : nullptr;
@@ -108,9 +107,13 @@ class Reader {
 
     template <HasFields Record>
     void Take(Record& record) {
-        ForEachField(record, [this](const wchar_t*, auto& value) {
-            if (badCount_ == nullptr) this->Take(value);
-        });
+        ForEachField(record, [this](const wchar_t*, auto& value) { this->TakeNext(value); });
+    }
+
+    /// Takes a field of a record, unless a count before it has ended the walk.
+    template <typename Value>
+    void TakeNext(Value& value) {
+        if (badCount_ == nullptr) Take(value);
     }
 
     /// The next number; 0 where too little is left.
@@ -149,8 +152,8 @@ class Reader {
     const wchar_t* badCount_ = nullptr;
 };
 
-// The bytes that a value takes where its texts are ASCII: with this much reserved a usual payload
-// is not moved, and wiped, while it is written.
+// The size of a value in the payload if its texts are ASCII. With this much reserved, a payload is
+// seldom moved while it grows; each move would wipe the bytes left behind.
 template <typename Value>
 std::size_t RoomFor(const Value& value) {
     if constexpr (std::is_same_v<Value, std::wstring>) {
@@ -174,9 +177,12 @@ const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
         return L"The estimate file is not a native GFE file.";
     }
     Reader reader(payload.subspan(kMagic.size()));
-    if (reader.Take<std::uint32_t>() != kVersion) return L"Unsupported estimate file version.";
-    reader.Take(estimate);
-    if (reader.Failure() == nullptr) reader.Take(estimate.ReservedFlag);
+    const auto version = reader.Take<std::uint32_t>();
+    if (version < 1 || version > kNewestVersion) return L"Unsupported estimate file version.";
+    // So that fields which this version does not hold have their defaults.
+    estimate = {};
+    ForEachNativeField(estimate, version,
+                       [&reader](const wchar_t*, auto& value) { reader.TakeNext(value); });
     return reader.Failure();
 }
 
@@ -184,11 +190,14 @@ const wchar_t* ReadPayload(ByteView payload, Estimate& estimate) {
 
 SecretBytes WriteNativeEstimate(const Estimate& estimate) {
     SecretBytes bytes(kMagic.begin(), kMagic.end());
-    bytes.reserve(kHead + RoomFor(estimate) + RoomFor(estimate.ReservedFlag));
+    std::size_t room = kHead;
+    ForEachNativeField(estimate, kNewestVersion,
+                       [&room](const wchar_t*, const auto& value) { room += RoomFor(value); });
+    bytes.reserve(room);
     Writer writer(bytes);
-    writer.Put(kVersion);
-    writer.Put(estimate);
-    writer.Put(estimate.ReservedFlag);
+    writer.Put(kNewestVersion);
+    ForEachNativeField(estimate, kNewestVersion,
+                       [&writer](const wchar_t*, const auto& value) { writer.Put(value); });
     return bytes;
 }
 

@@ -22,7 +22,7 @@ std::int32_t HighestRevision(const LocalStore& store, const Estimate& estimate,
     return highest;
 }
 
-// Only a forged file can hold the largest number; it must not end the program.
+// Wraps around: only a forged file can hold the largest number, and overflow would be undefined.
 std::int32_t NumberAfter(std::int32_t number) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(number) + 1);
 }

@@ -1,8 +1,8 @@
-// The estimate that follows an issued one when that is edited.
+// The revision that is made when an issued estimate is edited.
 #pragma once
 
 #include "model/estimate.h"
-#include "store/local_store.h"
+#include "platform/local_store.h"
 
 namespace tessaline {
 

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "model/estimate.h"
-#include "store/local_store.h"
+#include "platform/local_store.h"
 
 namespace tessaline {
 

@@ -5,13 +5,13 @@
 
 #include <clocale>
 
+#include "platform/local_store.h"
 #include "platform/scale.h"
 #include "platform/theme.h"
 #include "platform/window.h"
-#include "store/local_store.h"
 #include "ui/app_state.h"
-#include "ui/header.h"
-#include "ui/main_window.h"
+#include "ui/frame/header.h"
+#include "ui/frame/main_window.h"
 
 namespace tessaline {
 namespace {
@@ -23,7 +23,9 @@ void InitialiseCommonControls() {
     InitCommonControlsEx(&controls);
 }
 
-// No dialog-message filtering: Tab does not move between the form's fields.
+// Without IsDialogMessageW, so Tab does not move between the form's fields. It would take Tab and
+// Enter from the notes, which are free text, and turn Enter and Escape anywhere in the form into
+// commands that the main window does not have.
 int RunMessageLoop() {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
@@ -40,7 +42,7 @@ int RunMainWindow(int showState) {
     UpdateWindow(window);
     CentreWindow(window, nullptr);
     const int exitCode = RunMessageLoop();
-    // A quit message can come from elsewhere than the window's end.
+    // A quit message can also come from outside, while the window is still there.
     if (IsWindow(window)) DestroyWindow(window);
     return exitCode;
 }
