@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Fuzzes the readers of files and typed texts, each for a number of seconds (60 when none is given):
-# ./fuzz.sh [SECONDS]. With --runs N each gets N inputs from a fixed seed instead. What a fuzzer finds
-# stays in build/fuzz and belongs into a test.
+# Fuzzes the readers of files and of typed texts, each for SECONDS (60 by default):
+# ./fuzz.sh [SECONDS]. With --runs N each reader gets N inputs from a fixed seed instead. An input that
+# makes a reader fail is kept as build/fuzz/crash-...; make a test of it.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
-need_packages clang cmake ninja-build libclang-rt-14-dev
+need_packages clang cmake ninja-build libclang-rt-14-dev python3-cryptography
 
 limit=(-max_total_time="${1:-60}")
 [ "${1:-}" = --runs ] && limit=(-runs="$2" -seed=1)
@@ -17,7 +17,7 @@ cmake --build build/fuzz
 seeds=build/fuzz/seeds
 mkdir -p $seeds/{native,legacy,rules}
 cp tests/data/payload-*.bin $seeds/native
-cp tests/data/legacy-estimate.json $seeds/legacy
+tests/data/make.py --json >$seeds/legacy/estimate.json
 n=0
 while IFS= read -r text; do printf '%s' "$text" >"$seeds/rules/$((n += 1))"; done <<'TEXTS'
  02/29/2024 9:00

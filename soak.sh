@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
 # The long versions of the tests of faults, one after another with a summary of each: every
-# allocation fails once, 20,000 random actions, 200 sudden deaths, bad disks. ./soak.sh [PART...] runs
-# only those of: allocations actions deaths disks. What a part says stays in build/soak.
+# allocation fails once, 20,000 random actions with each of three new seeds, 200 sudden deaths, bad
+# disks. ./soak.sh [PART...] runs only those of: allocations actions deaths disks. What a part says
+# stays in build/soak.
 set -uo pipefail
+known='allocations actions deaths disks'
+parts=${*:-$known}
+for name in $parts; do
+  [[ " $known " == *" $name "* ]] || { echo "Unknown part $name. Parts: $known" >&2; exit 2; }
+done
 cd "$(dirname "$0")"
 . scripts/packages.sh
 . scripts/desktop.sh
@@ -29,9 +35,11 @@ part() {
 
 tests() { tests/run_under_wine.sh "$program" "--source-file=*$1"; }
 
-parts=${*:-allocations actions deaths disks}
 part allocations 'allocations failed$' tests allocation_test.cpp
-part actions '^TESSALINE_SEED|print jobs$' tests random_user_test.cpp
+# The ordinary tests always play the same seed.
+for seed in ${TESSALINE_SEED:-$RANDOM $RANDOM $RANDOM}; do
+  TESSALINE_SEED=$seed part actions '^TESSALINE_SEED|print jobs$' tests random_user_test.cpp
+done
 part deaths ' kills, ' \
   tests/sudden_death_test.sh "$program" "$PWD/build/soak/deaths" "${TESSALINE_KILLS:-200}"
 part disks '^Skipped|disks$' tests/disk_test.sh "$program" "$PWD/build/soak/disks"

@@ -13,7 +13,7 @@ namespace {
 
 DWORD WINAPI EndHangs(void*) {
     // The long versions of tests are left to soak.sh.
-    const DWORD seconds = _wgetenv(L"TESSALINE_SOAK") != nullptr ? 7200 : 100;
+    const DWORD seconds = _wgetenv(L"TESSALINE_SOAK") != nullptr ? 7200 : 250;
     const doctest::detail::TestCase* watched = nullptr;
     for (DWORD second = 0; second < seconds; ++second) {
         Sleep(1000);

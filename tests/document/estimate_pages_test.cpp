@@ -16,19 +16,15 @@ using namespace tessaline;
 
 namespace {
 
-Estimate FullEstimate() {
-    return RecordOf({L"page"});
+Estimate PagesEstimate(std::size_t lines = 7) {
+    Estimate estimate = RecordOf({L"page"});
+    estimate.Lines.assign(lines, ServiceLine(estimate.Lines[0]));
+    return estimate;
 }
 
 Recording Page(const Estimate& estimate, int pageIndex, bool printMode = false) {
     return Recording(
-        [&](HDC dc) { DrawEstimatePage(dc, kStretched, estimate, pageIndex, printMode); });
-}
-
-/// Whether something on the page is recorded as a line that begins with `start`.
-bool Shows(const Recording& page, const std::wstring& start) {
-    return std::any_of(page.lines.begin(), page.lines.end(),
-                       [&](const std::wstring& line) { return line.starts_with(start); });
+        [&](HDC dc) { DrawEstimatePage(dc, kOffset, estimate, pageIndex, printMode); });
 }
 
 std::wstring OnOneLine(std::wstring text) {
@@ -41,34 +37,61 @@ std::wstring Edges(const RECT& rect) {
            Told(rect.bottom);
 }
 
-std::wstring Pages(const std::wstring& given) {
-    const auto estimate = RecordWith(given);
-    std::wstring box;
-    for (const std::wstring& line : Page(estimate, 7).lines) {
-        if (line.starts_with(L"fill")) box = line;
+// From where to where a page's bars and frames are, with the names of its lines.
+std::wstring Rows(const std::wstring& index, const std::wstring& given) {
+    auto estimate = RecordWith(given);
+    std::wstring told = Told(PageCount(estimate)) + L":", name = L"#0";
+    for (ServiceLine& line : estimate.Lines) ++name[1], line.ServiceItem = name;
+    for (const auto& [kind, place, look] : Page(estimate, std::stoi(index)).things) {
+        if (kind != L"text") told += L" " + Told(place.top) + L"-" + Told(place.bottom);
+        if (look.ends_with(L"on page 2.")) told += L" " + look;
+        if (const auto at = look.find(L": #"); at != std::wstring::npos)
+            told += look.substr(at + 2);
     }
-    const bool goesOn = Shows(Page(estimate, 0), L"text 50,776,");
-    return Told(PageCount(estimate)) + L", " + box + (goesOn ? L", more" : L"");
+    return told;
 }
 
-/// Compares with files that hold the lines of a recording, with "preview|print" where the two
-/// differ.
-void CheckAgainst(std::initializer_list<const wchar_t*> files, const Recording& drawn,
-                  bool printMode) {
+// Compares what is drawn, but for its places, with a file of such lines, with "preview|print"
+// where the two differ.
+void CheckLooks(const Recording& drawn, const std::wstring& file, bool printMode) {
+    std::wstring text = FromUtf8(TestData(L"pages/" + file)), table = L"items table\n";
+    text.replace(text.find(table), table.size(), FromUtf8(TestData(L"pages/items-table.txt")));
+    std::vector<std::wstring> looks;
+    for (const auto& [kind, place, look] : drawn.things) {
+        looks.emplace_back(kind).append(L" ").append(look);
+    }
     const std::wregex choice(L"(\\w+)\\|(\\w+)");
-    std::wstring text;
-    for (const wchar_t* const file : files) text += FromUtf8(TestData(file));
-    CheckLines(drawn.lines, std::regex_replace(text, choice, printMode ? L"$2" : L"$1"));
+    CheckLines(looks, std::regex_replace(text, choice, printMode ? L"$2" : L"$1"));
     CHECK(drawn.tidy);
+}
+
+// What holds on any page: nothing leaves its margins, a text that begins in a frame stays between
+// its sides, and no two texts overlap, but for the second lines of the care overview.
+void CheckPlaces(const Recording& page) {
+    RECT all{}, both{};
+    for (const Drawn& one : page.things) {
+        const RECT& place = one.place;
+        if (&one != &page.things[0]) UnionRect(&all, &all, &place);  // the background
+        for (const Drawn& other : page.things) {
+            CAPTURE(one.look);
+            CAPTURE(other.look);
+            if (&one == &other || one.kind != L"text") continue;
+            if (!IntersectRect(&both, &place, &other.place)) continue;
+            if (other.kind == L"text") CHECK(both.bottom - both.top <= 8);
+            if (other.kind != L"text") CHECK(both.right - both.left == place.right - place.left);
+        }
+    }
+    CHECK((all.left == 42 && all.top == 34 && all.right / 2 == 387 && all.bottom == 1003));
 }
 
 }  // namespace
 
-TEST_CASE("The first page shows six lines and says that more follow; the second shows the rest") {
+TEST_CASE("Pages have every text once and in its style, each at a place of its own") {
     for (const bool printMode : {false, true}) {
-        CheckAgainst({L"first-page.txt"}, Page(FullEstimate(), 0, printMode), printMode);
-        CheckAgainst({L"second-page.txt"}, Page(FullEstimate(), 1, printMode), printMode);
+        CheckLooks(Page(PagesEstimate(1), 0, printMode), L"first-page.txt", printMode);
+        CheckLooks(Page(PagesEstimate(7), 1, printMode), L"second-page.txt", printMode);
     }
+    for (const int page : {0, 1}) CheckPlaces(Page(PagesEstimate(12), page));
 }
 
 TEST_CASE("Pages say what is there, without gaps, and lie below the buttons of the preview") {
@@ -82,7 +105,7 @@ TEST_CASE("Pages say what is there, without gaps, and lie below the buttons of t
          {L"dates", [](Text given) { return ScheduledValue(RecordWith(given)); }},
          {L"information",
           [](Text given) { return OnOneLine(EstimateInformation(RecordWith(given))); }},
-         {L"pages", Pages},
+         {L"rows", Rows},
          {L"preview", [](Text width, Text height) {
               return Edges(PageArea(PreviewTransform(std::stoi(width), std::stoi(height))));
           }}});
@@ -97,6 +120,7 @@ TEST_CASE("Each edge of a rectangle is cut towards zero by itself before the off
 TEST_CASE("Pages are printed in grey between the margins, as many as the printer takes") {
     static std::wstring told;
     static int pagesTaken = 0;
+    PretendPrinter();
     const StandIn document(__imp_StartDocW, [](HDC, const DOCINFOW* started) {
         told = started->lpszDocName;
         return 1;
@@ -105,26 +129,71 @@ TEST_CASE("Pages are printed in grey between the margins, as many as the printer
         told += L", page";
         return --pagesTaken < 0 ? 0 : 1;
     });
-    const auto end = [](HDC) {
-        told += L" end";
-        return 1;
-    };
-    const StandIn pageEnd(__imp_EndPage, end);
-    const StandIn documentEnd(__imp_EndDoc, end);
+    const auto end = [](HDC) { return static_cast<int>((told += L" end").size()); };
+    const StandIn pageEnd(__imp_EndPage, end), documentEnd(__imp_EndDoc, end);
     // Paper of a size that stretches a page by whole numbers between the margins.
     const StandIn paper(__imp_GetDeviceCaps, [](HDC, int index) {
         return index == HORZRES ? 3546 : index == VERTRES ? 2270 : 0;
     });
-    const auto print = [&](int pages) {
+    const auto print = [&](int pages, const PrintCopies& copies = {}) {
         pagesTaken = pages;
-        std::wstring error;
-        return Recording([&](HDC dc) { CHECK(PrintDocument(dc, FullEstimate(), error)); },
-                         {141, 79, 3405, 2191, 4.0, 2.0});
+        const auto draw = [&](HDC dc) {
+            std::wstring error;
+            CHECK(PrintDocument(dc, PagesEstimate(), copies, error));
+        };
+        return Recording(draw, {141, 79, 3405, 2191, 4.0, 2.0});
     };
-    CheckAgainst({L"first-page.txt", L"second-page.txt"}, print(9), true);
+    const auto pages = [](std::initializer_list<int> indices) {
+        const auto draw = [&](HDC dc) {
+            for (const int i : indices) DrawEstimatePage(dc, kOffset, PagesEstimate(), i, true);
+        };
+        return Recording(draw).lines;
+    };
+    CHECK(print(9).lines == pages({0, 1}));
     CHECK(told == L"Good Faith Estimate, page end, page end end");
-    CheckAgainst({L"first-page.txt"}, print(1), true);
+    CHECK(print(1).lines == pages({0}));
     CHECK(told == L"Good Faith Estimate, page end, page end");
+    CHECK(print(9, {2, true}).lines == pages({0, 1, 0, 1}));
+    CHECK(print(9, {2, false}).lines == pages({0, 0, 1, 1}));
+    CHECK(print(2, {3, false}).lines == pages({0, 0}));
+}
+
+TEST_CASE("What the user chose is printed, as it was when the dialog opened") {
+    static Estimate estimate;
+    static HDC paper = nullptr;
+    static DWORD code = 0;
+    estimate = PagesEstimate();
+    PretendPrinter();
+    const StandIn dialog(__imp_PrintDlgW, [](PRINTDLGW* asked) {
+        CHECK(asked->Flags == (PD_RETURNDC | PD_NOPAGENUMS | PD_NOSELECTION));
+        estimate = {};
+        asked->hDC = paper;
+        asked->nCopies = 2;
+        asked->Flags |= PD_COLLATE;
+        SetLastError(ERROR_CANCELLED);  // of something in the dialog
+        return TRUE;
+    });
+    const StandIn kept(__imp_DeleteDC, [](HDC) { return TRUE; });
+    std::wstring error, order;
+    const Recording printed([&](HDC dc) {
+        paper = dc;
+        CHECK(PrintEstimate(nullptr, estimate, error));
+    });
+    for (const std::wstring& line : printed.lines) {
+        if (line.ends_with(L": GOOD FAITH ESTIMATE")) order += L"first ";
+        if (line.ends_with(L" ADDITIONAL INFORMATION")) order += L"second ";
+    }
+    CHECK(order == L"first second first second ");
+    const StandIn document(__imp_StartDocW, [](HDC, const DOCINFOW*) {
+        if (code != ERROR_SUCCESS) SetLastError(code);
+        return 0;
+    });
+    for (const DWORD given : {DWORD{ERROR_CANCELLED}, DWORD{ERROR_PRINT_CANCELLED},
+                              DWORD{ERROR_ACCESS_DENIED}, DWORD{ERROR_SUCCESS}}) {
+        code = given;
+        CHECK_FALSE(PrintEstimate(nullptr, estimate, error));
+        CHECK(error.empty() == (given == ERROR_CANCELLED || given == ERROR_PRINT_CANCELLED));
+    }
 }
 
 TEST_CASE("Letters are as high as the vertical scale says, cut to whole pixels per inch") {
@@ -133,23 +202,26 @@ TEST_CASE("Letters are as high as the vertical scale says, cut to whole pixels p
         DrawPageText(dc, kUneven, L"a", {0, 0, 9, 40}, {720, kNormal, 0});
     };
     // 191 pixels per inch; 192 would give 720 points.
-    CHECK(Recording(draw, kUneven).lines.at(0) == L"text 0,0,9,79 717pt 000000 left: a");
+    CHECK(Recording(draw, kUneven).lines.at(0) == L"text 0,0,9,39 717pt 000000 left: a");
 }
 
 TEST_CASE("A record of any content is drawn") {
     const std::wstring word(1'000'000, L'W');
     std::wstring lines;
     for (int i = 0; i < 200'000; ++i) lines += L"a &\r\n";
-    Estimate estimate = FullEstimate();
+    Estimate estimate = PagesEstimate();
     estimate.EstimateId = estimate.Patient.FirstName = estimate.ProviderNotes = word;
     estimate.Provider.OrganizationName = estimate.PrimaryService = lines;
     estimate.Lines[0] = estimate.Lines[6] = {lines, word, word, lines, word, INT_MIN, 1e308};
     estimate.SeparateItems = {{word, lines}};
-    const Recording first = Page(estimate, 0);
-    CHECK(std::count_if(first.lines.begin(), first.lines.end(), [](const std::wstring& line) {
-              return line.ends_with(L"...");  // each long text of a row, on its one line
-          }) == 4);
-    CHECK(Shows(first, L"text 50,569,245,14 8pt 1E2933 left: a &\r\na &\r\n"));
-    CHECK(Shows(first, L"text 42,985,732,18 7pt 657481 centre: Prepared"));
-    CHECK(Shows(Page(estimate, 1), L"text 42,985,732,18 7pt 657481 centre: Prepared"));
+    const auto count = [&](int page, const wchar_t* part) {
+        const auto drawn = Page(estimate, page).lines;
+        return std::count_if(drawn.begin(), drawn.end(), [part](const std::wstring& line) {
+            return line.find(part) != std::wstring::npos;
+        });
+    };
+    // Each long text of a row, on its one line.
+    CHECK(count(0, L"...") == 4);
+    CHECK(count(0, L"8pt 1E2933 left: a &\r\na &\r\n") == 1);
+    for (const int page : {0, 1}) CHECK(count(page, L"7pt 657481 centre: Prepared") == 1);
 }

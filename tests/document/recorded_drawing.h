@@ -3,8 +3,9 @@
 //   text 42,34,440,34 22pt bold 123A50 left: GOOD FAITH ESTIMATE
 //   fill 42,117,732,4 1E8B90
 //   frame 42,132,732,63 1E8B90 pen 1
-// Colours are red, green and blue in hexadecimal. The lines of one text are joined by blanks, so
-// that it does not matter where they are broken.
+//   box 42,210,354,150 FFFFFF C8D2D8 pen 1
+// A box is a filled frame. Colours are red, green and blue in hexadecimal. The lines of one text
+// are joined by blanks, so that it does not matter where they are broken.
 #pragma once
 
 #include <windows.h>
@@ -12,7 +13,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -22,14 +23,27 @@
 
 namespace tessaline {
 
-/// A page with an offset, stretched differently in x and y, by whole numbers.
-inline constexpr PageTransform kStretched{10, 20, 10 + 816 * 4, 20 + 1056 * 2, 4.0, 2.0};
+/// A page with an offset.
+inline constexpr PageTransform kOffset{10, 20, 10 + 816 * 2, 20 + 1056 * 2, 2.0, 2.0};
+
+/// One thing that was drawn, in page units.
+struct Drawn {
+    std::wstring kind;  ///< "text", "fill", "frame" or "box"
+    RECT place;
+    std::wstring look;
+
+    [[nodiscard]] std::wstring Line() const {
+        return kind + L" " + Told(place.left) + L"," + Told(place.top) + L"," +
+               Told(place.right - place.left) + L"," + Told(place.bottom - place.top) + L" " +
+               look;
+    }
+};
 
 /// Everything that `draw(dc)` draws, told in the units of a transform with whole scales.
 class Recording {
   public:
     template <typename Draw>
-    explicit Recording(const Draw& draw, const PageTransform& units = kStretched) : units_(units) {
+    explicit Recording(const Draw& draw, const PageTransform& units = kOffset) : units_(units) {
         HDC dc = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
         SetBkMode(dc, OPAQUE);  // as every device begins, but not what plays a metafile
         const auto before = Selection(dc);
@@ -41,9 +55,11 @@ class Recording {
         EnumEnhMetaFile(player.Get(), metafile, ReadRecord, this, &anywhere);
         DeleteEnhMetaFile(metafile);
         tidy = tidy && objects_ == 0;
+        for (const Drawn& thing : things) lines.push_back(thing.Line());
     }
 
-    std::vector<std::wstring> lines;
+    std::vector<Drawn> things;
+    std::vector<std::wstring> lines;  ///< all of them told
     bool tidy = false;  ///< no call left a font, pen or brush behind, undeleted or selected
 
   private:
@@ -78,20 +94,15 @@ class Recording {
                 break;
             case EMR_BITBLT: {
                 const auto& fill = reinterpret_cast<const EMRBITBLT&>(record);
-                lines.push_back(L"fill " +
-                                Place(fill.xDest, fill.yDest, fill.cxDest, fill.cyDest) +
-                                Hex(Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbColor));
+                const LONG right = fill.xDest + fill.cxDest, bottom = fill.yDest + fill.cyDest;
+                things.push_back({L"fill", Units({fill.xDest, fill.yDest, right, bottom}),
+                                  Hex(Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbColor)});
                 break;
             }
             case EMR_RECTANGLE: {
                 // Recorded one pixel short at right and bottom.
                 const RECTL& box = reinterpret_cast<const EMRRECTANGLE&>(record).rclBox;
-                const auto pen = Selected<LOGPEN>(dc, OBJ_PEN);
-                const bool hollow = Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbStyle == BS_HOLLOW;
-                lines.push_back(
-                    (hollow ? L"frame " : L"box ") +
-                    Place(box.left, box.top, box.right + 1 - box.left, box.bottom + 1 - box.top) +
-                    Hex(pen.lopnColor) + L" pen " + Told(pen.lopnWidth.x));
+                Frame(dc, Units({box.left, box.top, box.right + 1, box.bottom + 1}));
                 break;
             }
             case EMR_EXTTEXTOUTW:
@@ -102,6 +113,16 @@ class Recording {
         }
     }
 
+    void Frame(HDC dc, const RECT& place) {
+        const auto pen = Selected<LOGPEN>(dc, OBJ_PEN);
+        const bool hollow = Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbStyle == BS_HOLLOW;
+        const bool filled = !things.empty() && EqualRect(&things.back().place, &place);
+        if (!filled) things.push_back({L"", place, L""});
+        things.back().kind = !hollow ? L"solid" : filled ? L"box" : L"frame";
+        std::wstring& look = things.back().look;
+        look += (filled ? L" " : L"") + Hex(pen.lopnColor) + L" pen " + Told(pen.lopnWidth.x);
+    }
+
     void Text(HDC dc, const ENHMETARECORD& record) {
         const EMRTEXT& text = reinterpret_cast<const EMREXTTEXTOUTW&>(record).emrtext;
         const auto* bytes = reinterpret_cast<const BYTE*>(&record);
@@ -109,22 +130,22 @@ class Recording {
         const std::wstring words(reinterpret_cast<const wchar_t*>(bytes + text.offString),
                                  text.nChars);
         const auto font = Selected<LOGFONTW>(dc, OBJ_FONT);
-        const auto& [left, top, right, bottom] = text.rcl;
-        std::wstring how = L"text " + Place(left, top, right - left, bottom - top) +
-                           Told(std::lround(-font.lfHeight * 0.75 / units_.scaleY)) +
+        const auto [x, y] = text.ptlReference;
+        const LONG end = std::accumulate(advances, advances + text.nChars, x);
+        const RECT place = Units(text.rcl);
+        if (!things.empty() && EqualRect(&things.back().place, &place)) {
+            // The next line of the same text.
+            std::wstring& look = things.back().look;
+            look += (look.ends_with(L' ') || look.ends_with(L'/') ? L"" : L" ") + words;
+            return;
+        }
+        std::wstring how = Told(std::lround(-font.lfHeight * 0.75 / units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
         if (GetBkMode(dc) != TRANSPARENT) how += L" opaque";
-        if (how == lastText_) {  // the next line of the same text
-            lines.back() += (lines.back().ends_with(L' ') ? L"" : L" ") + words;
-            return;
-        }
-        lastText_ = how;
-        LONG after = right - text.ptlReference.x;
-        for (DWORD i = 0; i < text.nChars; ++i) after -= advances[i];
-        how += text.ptlReference.x == left ? L" left" : after == 0 ? L" right" : L" centre";
-        if (text.ptlReference.y > top) how += L" middle";
-        lines.push_back(how + L": " + words);
+        how += x == text.rcl.left ? L" left" : end == text.rcl.right ? L" right" : L" centre";
+        how += y > text.rcl.top ? L" middle: " : L": ";
+        things.push_back({L"text", place, how + words});
     }
 
     static std::wstring Hex(COLORREF colour) {
@@ -134,21 +155,14 @@ class Recording {
         return text;
     }
 
-    /// Pixels as page units; what is left over shows.
-    static std::wstring Units(LONG pixels, double scale) {
-        const std::ldiv_t units = std::ldiv(pixels, static_cast<LONG>(scale));
-        return Told(units.quot) + (units.rem == 0 ? L"" : L"+" + Told(units.rem));
-    }
-
-    [[nodiscard]] std::wstring Place(LONG left, LONG top, LONG width, LONG height) const {
-        return Units(left - units_.left, units_.scaleX) + L"," +
-               Units(top - units_.top, units_.scaleY) + L"," + Units(width, units_.scaleX) + L"," +
-               Units(height, units_.scaleY) + L" ";
+    [[nodiscard]] RECT Units(const RECTL& pixels) const {
+        const auto x = [this](LONG at) { return LONG((at - units_.left) / units_.scaleX); };
+        const auto y = [this](LONG at) { return LONG((at - units_.top) / units_.scaleY); };
+        return {x(pixels.left), y(pixels.top), x(pixels.right), y(pixels.bottom)};
     }
 
     PageTransform units_;
     int objects_ = 0;  // fonts, pens and brushes alive
-    std::wstring lastText_;
 };
 
 }  // namespace tessaline

@@ -14,9 +14,9 @@
 #include "tests/support/stand_in.h"
 #include "tests/ui/running_program.h"
 #include "tests/ui/told_window.h"
-#include "ui/binding.h"
+#include "ui/commands/sample_estimate.h"
 #include "ui/control_ids.h"
-#include "ui/sample_estimate.h"
+#include "ui/form/binding.h"
 
 using namespace tessaline;
 

@@ -1,6 +1,7 @@
-// Any decrypted text of an older file: the JSON reader ends inside it, what it read can be copied
+// Any decrypted text of an older file: the JSON reader ends inside it, what it read can be moved
 // and freed, and what maps to a record survives the native format.
 #include <cstdlib>
+#include <utility>
 
 #include "legacy/legacy_mapping.h"
 #include "platform/utf8.h"
@@ -14,9 +15,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     JsonValue root;
     Estimate estimate;
     const bool parsed = ParseValue(cursor, root);
-    const JsonValue copy = root;
-    if (cursor.position > text.size() || copy.Kind() != root.Kind()) std::abort();
-    if (!parsed || !MapLegacyEstimate(copy, estimate)) return 0;
+    const JsonKind kind = root.Kind();
+    const JsonValue moved = std::move(root);
+    if (cursor.position > text.size() || moved.Kind() != kind) std::abort();
+    if (!parsed || !MapLegacyEstimate(moved, estimate)) return 0;
     if (estimate.EstimateId.empty() || estimate.CreatedOn < 0) std::abort();
     const SecretBytes written = WriteNativeEstimate(estimate);
     Estimate again;

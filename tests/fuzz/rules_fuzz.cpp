@@ -35,7 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const double stamp = std::abs(amount) < 1e18 ? amount : 0;
     Require(FormatTimestamp(static_cast<std::int64_t>(stamp), true).size() < 64);
     Require(CheckZip(trimmed) == CheckZip(text) && CheckEmail(trimmed) == CheckEmail(text));
-    Require(CheckDateOfBirth(text, true) == CheckDateOfBirth(trimmed, true));
+    constexpr std::chrono::year_month_day today = std::chrono::year{2026} / 3 / 7;
+    Require(CheckDateOfBirth(text, true, today) == CheckDateOfBirth(trimmed, true, today));
     Require(CheckNpi(text).empty() ==
             (DigitsOnly(text).size() % 10 == 0 && DigitsOnly(text).size() <= 10));
     return 0;

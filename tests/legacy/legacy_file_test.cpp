@@ -2,7 +2,6 @@
 
 #include <regex>
 
-#include "legacy/legacy_cipher.h"
 #include "legacy/legacy_key.h"
 #include "legacy/legacy_mapping.h"
 #include "legacy/sha256.h"
@@ -32,19 +31,12 @@ struct OldFolder {
         REQUIRE(WriteFileBytes(store.BaseFolder + L"\\data.key", key));
     }
 
-    // What opening says: "opened" and the identifier, the text for the user, or "nothing".
-    std::wstring Open(ByteView file) {
-        REQUIRE(store.Put(L"a.gfe", file));
+    // What reading says: "read" and the identifier, the text for the user, or "nothing".
+    std::wstring Read(ByteView file) {
         std::wstring error = L"nothing";
         estimate = {};
-        const bool opened = OpenLegacyEstimateFile(store.Path(L"a.gfe"), store, estimate, error);
-        return opened && error == L"nothing" ? L"opened " + estimate.EstimateId : error;
-    }
-
-    // The same for decryption alone, which needs no file.
-    std::wstring Decrypt(ByteView file) const {
-        std::wstring error = L"nothing";
-        return DecryptLegacyFile(file, store, error).empty() ? error : L"decrypted";
+        const bool isRead = ReadLegacyEstimate(file, store, estimate, error);
+        return isRead && error == L"nothing" ? L"read " + estimate.EstimateId : error;
     }
 
     TemporaryStore store;
@@ -117,30 +109,29 @@ TEST_CASE("A key file counts when it holds exactly 32 bytes") {
 TEST_CASE("A file of the older edition gives its record, under its own key alone") {
     OldFolder folder;
     const Bytes file = TestData(L"legacy-estimate.gfe");
-    CHECK(folder.Open(file) == L"opened GFE-20240229-235959");
+    CHECK(folder.Read(file) == L"read GFE-20240229-235959");
     CHECK(Differences(folder.estimate, RecordOf({L"full", L"legacy"})) == L"");
-    CHECK(folder.Open(TestData(L"legacy-unfinished.gfe")) ==
+    CHECK(folder.Read(TestData(L"legacy-unfinished.gfe")) ==
           L"Could not parse the legacy estimate data.");
-    CHECK(folder.Open(TestData(L"legacy-unnamed.gfe")) ==
+    CHECK(folder.Read(TestData(L"legacy-unnamed.gfe")) ==
           L"The legacy file does not contain a valid Good Faith Estimate.");
     folder.UseKey(Bytes(32, 1));
-    CHECK(folder.Open(file) == kNotDecrypted);
+    CHECK(folder.Read(file) == kNotDecrypted);
 }
 
 TEST_CASE("A file that ends early, or in which any byte is another, is refused") {
-    const OldFolder folder;
+    OldFolder folder;
     Bytes file = TestData(L"legacy-estimate.gfe");
-    CHECK(folder.Decrypt(file) == L"decrypted");
     for (std::size_t at = 0; at < file.size(); ++at) {
         CAPTURE(at);
-        CHECK(folder.Decrypt(ByteView(file).first(at)) == (at < 32 ? L"nothing" : kNotDecrypted));
+        CHECK(folder.Read(ByteView(file).first(at)) == (at < 32 ? L"nothing" : kNotDecrypted));
         file[at] ^= 0x10;
-        CHECK(folder.Decrypt(file) == (at < 4 ? L"nothing" : kNotDecrypted));
+        CHECK(folder.Read(file) == (at < 4 ? L"nothing" : kNotDecrypted));
         file[at] ^= 0x10;
     }
     // Without a document it is no estimate, but the tag is checked all the same.
     file = TestData(L"legacy-empty.gfe");
-    CHECK(folder.Decrypt(file) == L"nothing");
+    CHECK(folder.Read(file) == L"nothing");
     file[16] ^= 1;
-    CHECK(folder.Decrypt(file) == kNotDecrypted);
+    CHECK(folder.Read(file) == kNotDecrypted);
 }

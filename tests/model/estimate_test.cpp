@@ -33,7 +33,7 @@ TEST_CASE("The first rule that an estimate breaks is what the user is told") {
     Estimate estimate;
     const auto set = [&estimate](const std::wstring& path, const std::wstring& text) {
         REQUIRE(SetValue(estimate, path, text));
-        return ValidateEstimate(estimate);
+        return ValidateEstimate(estimate, std::chrono::year{2026} / 3 / 7);
     };
     CheckRules(L"validation.txt", {{L"set", set}});
 }

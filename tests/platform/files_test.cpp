@@ -2,6 +2,7 @@
 
 #include "platform/system_error.h"
 #include "tests/support/readable.h"
+#include "tests/support/stand_in.h"
 #include "tests/support/temporary_store.h"
 
 using namespace tessaline;
@@ -9,12 +10,23 @@ using namespace tessaline;
 TEST_CASE("A file is replaced as a whole") {
     const TemporaryStore store;
     const std::wstring path = store.BaseFolder + L"\\new\\folders\\a";
-    REQUIRE(WriteFileBytes(path, Bytes(100'000, 7)));
-    CHECK(ReadFileBytes(path) == Bytes(100'000, 7));
-    REQUIRE(WriteFileBytes(path, Bytes{1, 0, 26, 13, 10}));
-    CHECK(ReadFileBytes(path) == Bytes{1, 0, 26, 13, 10});
-    REQUIRE(WriteFileBytes(path, {}));
-    CHECK(ReadFileBytes(path).empty());
+    for (const Bytes& content : {Bytes(100'000, 7), Bytes{1, 0, 26, 13, 10}, Bytes()}) {
+        REQUIRE(WriteFileBytes(path, content));
+        CHECK(ReadFileBytes(path) == content);
+    }
+}
+
+TEST_CASE("A disk without flushing has the file all the same, a failing one does not") {
+    static DWORD code = 0;
+    const TemporaryStore store;
+    const StandIn flush(__imp_FlushFileBuffers, [](HANDLE) {
+        SetLastError(code);
+        return FALSE;
+    });
+    for (const int given : {ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED, ERROR_DISK_FULL}) {
+        code = static_cast<DWORD>(given);
+        CHECK(store.Put(L"a", Bytes{1}) == (given != ERROR_DISK_FULL));
+    }
 }
 
 TEST_CASE("A file that others have open is read and replaced all the same") {

@@ -34,6 +34,10 @@ TEST_CASE("Estimates come newest first, each with its path, and what is none is 
     cut.resize(cut.size() / 2);
     store.Put(L"cut.gfe", cut);
     store.Put(L"short.gfe", Bytes{'G', 'F', 'E'});
+    SecretBytes later = WriteNativeEstimate(DistinctEstimate());
+    later[4] = 99;  // the version
+    std::wstring error;
+    store.Put(L"later.gfe", ProtectEstimateData(later, error));
     CHECK_FALSE(HasLegacyFiles(store));
     // The first, and readable or not.
     store.Put(L"0.gfe", Bytes{'G', 'F', 'E', '2'});

@@ -12,16 +12,12 @@ using namespace tessaline;
 
 namespace {
 
-constexpr std::wstring_view kTag{L"KOVAL-DQX-STRATA-8391\0", 22};
-
-DATA_BLOB BlobOf(const void* data, std::size_t size) {
-    return {static_cast<DWORD>(size), static_cast<BYTE*>(const_cast<void*>(data))};
-}
+const std::wstring kTag{L"KOVAL-DQX-STRATA-8391\0", 22};
 
 // Opens a file's blob as another program could. Its description, or nothing.
-std::wstring Open(ByteView content, std::wstring_view tag) {
-    DATA_BLOB blob = BlobOf(content.data() + 4, content.size() - 4);
-    DATA_BLOB entropy = BlobOf(tag.data(), tag.size() * sizeof(wchar_t));
+std::wstring Open(Bytes content, std::wstring tag) {
+    DATA_BLOB blob{static_cast<DWORD>(content.size() - 4), content.data() + 4};
+    DATA_BLOB entropy{static_cast<DWORD>(tag.size() * 2), reinterpret_cast<BYTE*>(tag.data())};
     DATA_BLOB plain{};
     LocalOwner<wchar_t> text;
     if (!CryptUnprotectData(&blob, text.Receive(), &entropy, nullptr, nullptr, 1, &plain)) {

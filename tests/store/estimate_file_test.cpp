@@ -39,6 +39,49 @@ TEST_CASE("A save that fails has filled in what was missing all the same") {
     CHECK(blank.LastModifiedOn == blank.CreatedOn);
 }
 
+TEST_CASE(
+    "A file of the older edition is moved aside unchanged before a save, or nothing is done") {
+    const TemporaryStore store;
+    const std::wstring aside = store.BaseFolder + L"\\Older edition";
+    const Bytes older = TestData(L"legacy-estimate.gfe");
+    const auto path = store.Path(L"GFE-1.gfe");
+    std::filesystem::file_time_type time;
+    Estimate estimate;
+    estimate.EstimateId = L"GFE-1";
+    std::wstring written, error;
+    const auto put = [&] {
+        REQUIRE(store.Put(L"GFE-1.gfe", older));
+        const auto now = std::filesystem::last_write_time(path);
+        std::filesystem::last_write_time(path, now - std::chrono::hours(1000));
+        time = std::filesystem::last_write_time(path);
+    };
+    const auto isKept = [&](const std::wstring& file) {
+        return ReadFileBytes(file) == older && std::filesystem::last_write_time(file) == time;
+    };
+    REQUIRE(WriteFileBytes(aside, Bytes{1}));  // a file where the folder should be
+    put();
+    CHECK_FALSE(SaveEstimate(store, estimate, written, error));
+    CHECK((isKept(path) && error == L"Could not write the estimate file."));
+    std::filesystem::remove(aside);
+    for (const DWORD share : {0UL, DWORD{FILE_SHARE_READ}, DWORD{FILE_SHARE_WRITE}}) {
+        const FileOwner lock = store.Lock(L"GFE-1.gfe", share);
+        CHECK_FALSE(SaveEstimate(store, estimate, written, error));
+    }
+    CHECK(isKept(path));
+    for (const wchar_t* const name : {L"\\GFE-1.gfe", L"\\GFE-1 (2).gfe", L"\\GFE-1 (3).gfe"}) {
+        put();
+        CHECK(SaveEstimate(store, estimate, written, error));
+        CHECK(isKept(aside + name));
+        CHECK(LoadEstimateFile(store, path, estimate, error));
+    }
+    // A native file stays where it is, also an unfinished one.
+    for (const std::size_t size : {0U, 4U}) {
+        REQUIRE(store.Put(L"GFE-1.gfe", Bytes(size, 'G')));
+        CHECK(SaveEstimate(store, estimate, written, error));
+    }
+    CHECK_FALSE(std::filesystem::exists(aside + L"\\GFE-1 (4).gfe"));
+}
+
 TEST_CASE("Each file that is no estimate has its message") {
     const TemporaryStore store;
     const auto load = [&store](ByteView content) {
@@ -50,7 +93,9 @@ TEST_CASE("Each file that is no estimate has its message") {
         return error.substr(0, error.find(L": "));
     };
     CheckRules(L"files.txt", {{L"file", [&](const std::wstring& content) {
-                                   return load(Bytes(content.begin(), content.end()));
+                                   SecretBytes bytes;
+                                   AppendUtf8(bytes, content);
+                                   return load(bytes);
                                }}});
     std::wstring error;
     CHECK(load(ProtectEstimateData(Bytes(300), error)) ==

@@ -1,5 +1,6 @@
 #include "store/native_format.h"
 
+#include <algorithm>
 #include <map>
 
 #include "tests/support/record_values.h"
@@ -15,32 +16,23 @@ std::wstring Verdict(ByteView payload) {
     return ReadNativeEstimate(payload, estimate, error) ? L"" : error;
 }
 
-Bytes Plain(const SecretBytes& payload) {
-    return {payload.begin(), payload.end()};
-}
-
-// The record in tests/data/payload-full.bin.
-Estimate FullEstimate() {
-    Estimate estimate = RecordOf({L"full", L"native"});
-    estimate.ReservedFlag = true;
-    return estimate;
-}
-
 }  // namespace
 
 TEST_CASE("Payloads are those that another program makes of the same records") {
-    for (const auto& [name, record] :
-         {std::pair(L"payload-blank.bin", Estimate()), {L"payload-full.bin", FullEstimate()}}) {
-        CHECK(Plain(WriteNativeEstimate(record)) == TestData(name));
+    for (const auto& [name, record] : {std::pair(L"payload-v1-blank.bin", Estimate()),
+                                       {L"payload-v1-full.bin", RecordOf({L"full", L"native"})}}) {
+        const Bytes payload = TestData(name);
+        const SecretBytes written = WriteNativeEstimate(record);
+        if (payload[4] == kNewestVersion) CHECK(std::ranges::equal(written, payload));
         Estimate read = DistinctEstimate();
         std::wstring error;
-        REQUIRE(ReadNativeEstimate(TestData(name), read, error));
+        REQUIRE(ReadNativeEstimate(payload, read, error));
         CHECK(Differences(read, record) == L"");
     }
 }
 
 TEST_CASE("A payload cut at any length is refused, and a change of any byte is not overlooked") {
-    Bytes full = TestData(L"payload-full.bin");
+    Bytes full = TestData(L"payload-v1-full.bin");
     std::map<std::wstring, int> cut;
     std::map<std::wstring, int> changed;
     for (std::size_t at = 0; at < full.size(); ++at) {
@@ -56,8 +48,17 @@ TEST_CASE("A payload cut at any length is refused, and a change of any byte is n
                 {L"changed", [&](Text verdict) { return changed[verdict]; }}});
 }
 
+TEST_CASE("Versions from 1 to the newest are read") {
+    SecretBytes payload = WriteNativeEstimate({});
+    for (std::uint32_t version = 0; version < kNewestVersion + 3; ++version) {
+        payload[4] = static_cast<std::uint8_t>(version);
+        const bool isKnown = version >= 1 && version <= kNewestVersion;
+        CHECK(Verdict(payload) == (isKnown ? L"" : L"Unsupported estimate file version."));
+    }
+}
+
 TEST_CASE("What follows the record is ignored, and any byte but 0 is true") {
-    Bytes payload = TestData(L"payload-blank.bin");
+    Bytes payload = TestData(L"payload-v1-blank.bin");
     payload.back() = 2;
     payload.push_back(0);
     Estimate estimate;
@@ -81,12 +82,12 @@ TEST_CASE("Lists of a thousand are read, longer ones are written all the same") 
 }
 
 TEST_CASE("A text of sixteen mebibytes is read, a longer one is damage") {
-    Bytes payload = TestData(L"payload-blank.bin");
+    Bytes payload = TestData(L"payload-v1-blank.bin");
     // The first text, whose size stands at 8.
     payload[11] = 1;
     payload.insert(payload.begin() + 12, 0x1000000, 0);
     CHECK(Verdict(payload) == L"");
     payload[8] = 1;
-    payload.insert(payload.begin() + 12, 0);
+    payload.insert(payload.begin() + 12, 1, 0);
     CHECK(Verdict(payload) == L"The estimate file is incomplete or damaged.");
 }

@@ -1,5 +1,5 @@
-// What every test stands on: doctest, with the record's texts readable in its messages, and the
-// files in tests/data. Tests include this instead of doctest.
+// What every test includes instead of doctest.h: doctest, taught to print wide texts in its
+// messages, and access to the files in tests/data.
 #pragma once
 
 #include <doctest/doctest.h>
@@ -26,7 +26,7 @@ struct StringMaker<Text> {
     }
 };
 
-// For itself, because doctest takes it for any pointer.
+// A specialisation of its own, because doctest would print the address.
 template <>
 struct StringMaker<const wchar_t*> : StringMaker<std::wstring_view> {};
 

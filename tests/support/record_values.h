@@ -4,17 +4,28 @@
 #include <string>
 #include <type_traits>
 
-#include "model/estimate_fields.h"
+#include "store/native_versions.h"
 #include "tests/support/rule_table.h"
 
 namespace tessaline {
+
+/// Calls `visit(name, value)` for every field of a record, also those that version 1 does not
+/// hold.
+template <typename Record, typename Visit>
+void ForEachMember(Record& record, const Visit& visit) {
+    if constexpr (std::is_same_v<std::remove_const_t<Record>, Estimate>) {
+        ForEachNativeField(record, kNewestVersion, visit);
+    } else {
+        ForEachField(record, visit);
+    }
+}
 
 /// Calls `visit(name, value)` for every text, number and flag in a record or list, and in the
 /// records and lists in it, in stored order.
 template <typename Value, typename Visit>
 void ForEachValue(const wchar_t* name, Value& value, const Visit& visit) {
     if constexpr (requires { FieldsOf(value); }) {
-        ForEachField(
+        ForEachMember(
             value, [&](const wchar_t* field, auto& inner) { ForEachValue(field, inner, visit); });
     } else if constexpr (requires { FieldsOf(value.front()); }) {
         for (auto& element : value) ForEachValue(name, element, visit);
@@ -31,29 +42,39 @@ bool SetValue(Value& value, const std::wstring& path, const std::wstring& text) 
     const std::wstring rest = path.substr(std::min(head.size() + 1, path.size()));
     if constexpr (requires { FieldsOf(value); }) {
         bool isSet = false;
-        ForEachField(value, [&](const std::wstring& name, auto& field) {
+        ForEachMember(value, [&](const std::wstring& name, auto& field) {
             if (name == head) isSet = SetValue(field, rest, text);
+            if (name == path && !rest.empty()) isSet = SetValue(field, L"", text);
         });
         return isSet;
     } else if constexpr (requires { FieldsOf(value.front()); }) {
         if (!head.empty()) return SetValue(value.at(std::stoul(head)), rest, text);
         value.resize(std::stoul(text));
-    } else if constexpr (std::is_same_v<Value, std::wstring>) {
-        value = text;
+        return true;
     } else {
-        value = static_cast<Value>(std::stod(text));
+        if constexpr (std::is_same_v<Value, std::wstring>) {
+            value = text;
+        } else {
+            value = static_cast<Value>(std::stod(text));
+        }
+        return true;
     }
-    return true;
 }
 
-/// The record whose fields "Name: value; ..." gives.
+/// Sets a field that is told as "Path: value".
+template <typename Record>
+void SetField(Record& record, const std::wstring& told) {
+    const std::size_t colon = told.find(L": ");
+    REQUIRE(SetValue(record, told.substr(0, colon), told.substr(colon + 2)));
+}
+
+/// The record whose fields "Path: value; ..." gives.
 template <typename Record = Estimate>
 Record RecordWith(const std::wstring& given) {
     Record record;
     std::wistringstream fields(given);
     for (std::wstring field; std::getline(fields >> std::ws, field, L';');) {
-        const std::size_t colon = field.find(L": ");
-        REQUIRE(SetValue(record, field.substr(0, colon), field.substr(colon + 2)));
+        SetField(record, field);
     }
     return record;
 }
@@ -64,7 +85,7 @@ inline Estimate RecordOf(const std::set<std::wstring>& rules) {
     for (const RuleRow& row : RowsOf(L"record.txt")) {
         CAPTURE(row.place);
         if (!rules.contains(row.cells[0])) continue;
-        REQUIRE(SetValue(estimate, row.cells.at(1), row.cells.at(2)));
+        for (std::size_t i = 1; i < row.cells.size(); ++i) SetField(estimate, row.cells[i]);
     }
     return estimate;
 }
@@ -88,18 +109,19 @@ inline Estimate RecordOf(const std::set<std::wstring>& rules) {
             if constexpr (std::is_floating_point_v<Value>) value += 0.1;
         }
     });
-    estimate.ReservedFlag = true;
     return estimate;
 }
 
 /// The names of the fields in which two records differ, each followed by a blank.
 [[nodiscard]] inline std::wstring Differences(const Estimate& left, const Estimate& right) {
     std::wstring names;
-    const auto compare = [&](const auto& field) {
-        if (!(left.*field.member == right.*field.member)) names.append(field.name).append(L" ");
-    };
-    std::apply([&](const auto&... field) { (compare(field), ...); }, kEstimateFields);
-    compare(Field{L"ReservedFlag", &Estimate::ReservedFlag});
+    ForEachMember(left, [&](const std::wstring& name, const auto& value) {
+        ForEachMember(right, [&](const std::wstring& other, const auto& second) {
+            if constexpr (std::is_same_v<decltype(value), decltype(second)>) {
+                if (name == other && !(value == second)) names += name + L" ";
+            }
+        });
+    });
     return names;
 }
 

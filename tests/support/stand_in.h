@@ -12,10 +12,13 @@
 extern "C" {
 extern decltype(&AbortDoc) __imp_AbortDoc;
 extern decltype(&BeginPaint) __imp_BeginPaint;
+extern decltype(&DeleteDC) __imp_DeleteDC;
 extern decltype(&EndDoc) __imp_EndDoc;
 extern decltype(&EndPage) __imp_EndPage;
 extern decltype(&FindFirstFileW) __imp_FindFirstFileW;
+extern decltype(&FlushFileBuffers) __imp_FlushFileBuffers;
 extern decltype(&GetDeviceCaps) __imp_GetDeviceCaps;
+extern decltype(&GetMonitorInfoW) __imp_GetMonitorInfoW;
 extern decltype(&PrintDlgW) __imp_PrintDlgW;
 extern decltype(&StartDocW) __imp_StartDocW;
 extern decltype(&StartPage) __imp_StartPage;
@@ -23,17 +26,28 @@ extern decltype(&StartPage) __imp_StartPage;
 
 namespace tessaline {
 
+/// Writes to a place that may be read-only, as Microsoft's linker makes the import table.
+template <typename Value>
+void Write(Value& place, std::type_identity_t<Value> value) {
+    DWORD before = 0;
+    VirtualProtect(&place, sizeof(place), PAGE_READWRITE, &before);
+    place = value;
+}
+
 /// Stands in until the end of its scope.
 template <typename Value>
 class StandIn {
   public:
-    StandIn(Value& place, std::type_identity_t<Value> own)
-        : place_(place), before_(std::exchange(place, own)) {}
+    StandIn(Value& place, std::type_identity_t<Value> own) : place_(place), before_(place) {
+        Put(own);
+    }
     StandIn(const StandIn&) = delete;
     StandIn& operator=(const StandIn&) = delete;
-    ~StandIn() { place_ = before_; }
+    ~StandIn() { Put(before_); }
 
   private:
+    void Put(Value value) { Write(place_, value); }
+
     Value& place_;
     Value before_;
 };
@@ -50,14 +64,16 @@ inline PrintJobs printJobs{};
 /// From now on the print dialog is confirmed at once, and a printer without a spooler takes every
 /// job and prints nothing.
 inline void PretendPrinter() {
-    __imp_PrintDlgW = [](PRINTDLGW* dialog) {
+    Write(__imp_PrintDlgW, [](PRINTDLGW* dialog) {
         dialog->hDC = CreateCompatibleDC(nullptr);
         return TRUE;
-    };
-    __imp_StartDocW = [](HDC, const DOCINFOW*) { return ++printJobs.begun; };
-    __imp_StartPage = __imp_EndPage = [](HDC) { return 1; };
-    __imp_EndDoc = [](HDC) { return ++printJobs.ended; };
-    __imp_AbortDoc = [](HDC) { return ++printJobs.aborted; };
+    });
+    Write(__imp_StartDocW, [](HDC, const DOCINFOW*) { return ++printJobs.begun; });
+    for (auto* const page : {&__imp_StartPage, &__imp_EndPage}) {
+        Write(*page, [](HDC) { return 1; });
+    }
+    Write(__imp_EndDoc, [](HDC) { return ++printJobs.ended; });
+    Write(__imp_AbortDoc, [](HDC) { return ++printJobs.aborted; });
 }
 
 }  // namespace tessaline

@@ -9,8 +9,8 @@
 
 #include "platform/files.h"
 #include "platform/handles.h"
+#include "platform/local_store.h"
 #include "store/envelope.h"
-#include "store/local_store.h"
 #include "store/native_format.h"
 
 namespace tessaline {

@@ -10,7 +10,7 @@
 #include "tests/support/record_values.h"
 #include "tests/support/stand_in.h"
 #include "tests/ui/told_window.h"
-#include "ui/main_window.h"
+#include "ui/frame/main_window.h"
 
 namespace tessaline {
 namespace {
@@ -74,7 +74,14 @@ RunningProgram::RunningProgram(int dpi) {
     running = this;
     // Any loop dispatches it, those of message boxes too, and only when nothing else waits.
     timer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
-        if (const HWND modal = ModalWindow()) running->user_(modal);
+        // Windows would keep to itself what is thrown here.
+        try {
+            if (const HWND modal = ModalWindow()) running->user_(modal);
+        } catch (const doctest::detail::TestFailureException&) {
+            return;  // told already
+        } catch (const std::exception& fault) {
+            FAIL_CHECK(fault.what());
+        }
     });
     ShowWindow(CreateMainWindow(), SW_SHOW);
     Settle();

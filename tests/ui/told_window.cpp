@@ -2,11 +2,13 @@
 
 #include <commctrl.h>
 
-#include <regex>
+#include <climits>
 #include <sstream>
 #include <string_view>
+#include <vector>
 
 #include "platform/controls.h"
+#include "platform/handles.h"
 #include "platform/scale.h"
 #include "tests/support/readable.h"
 
@@ -41,59 +43,137 @@ constexpr struct { std::wstring_view name; int points, weight; } kFonts[] = {
     {L"title", 20, 600}, {L"section", 12, 600}, {L"total", 17, 600}, {L"none", 0, 0}};
 // clang-format on
 
+// The columns of a list with their widths, in which the titles fit.
 std::wstring Columns(HWND list) {
-    std::wostringstream columns;
+    std::wstring columns;
     wchar_t text[256] = L"";
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
     column.pszText = text;
     column.cchTextMax = 256;
     for (int index = 0; ListView_GetColumn(list, index, &column); ++index) {
-        columns << (index == 0 ? L"" : L"|") << text << L' ' << Unscale(column.cx)
-                << ((column.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT ? L" right" : L"");
+        const bool right = (column.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT;
+        columns += (index == 0 ? L"" : L", ") + std::wstring(text) + L" " +
+                   std::to_wstring(Unscale(column.cx)) + (right ? L" right" : L"");
+        CHECK(column.cx >= ListView_GetStringWidth(list, text));
     }
     CHECK(ListView_GetExtendedListViewStyle(list) ==
           (LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER));
-    return columns.str();
+    return columns;
 }
 
-// The window as a line of the file has it.
-std::wstring Line(HWND window) {
-    const std::wstring className = ClassOf(window);
-    auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE)) & ~DWORD{WS_HSCROLL};
-    const auto extended = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
-    RECT place = PlaceOf(window);
-    std::wstring text = WindowText(window);
-    if (className == L"ComboBox") {
-        // With its list, as it was made. Windows counts the closed box in; Wine leaves it out.
-        RECT opened{};
-        SendMessageW(window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&opened));
-        const int height = Unscale(opened.bottom - opened.top);
-        place.bottom = Scale(height > 190 && height < 220 ? 220 : height);
-        style &= ~DWORD{CBS_HASSTRINGS};  // which Windows adds
+// What a choice offers, the chosen one in front.
+std::wstring Entries(HWND choice) {
+    std::wstring entries = ChoiceText(choice) + L":";
+    wchar_t text[256] = L"";
+    const LRESULT count = SendMessageW(choice, CB_GETCOUNT, 0, 0);
+    for (LRESULT index = 0; index < count; ++index) {
+        SendMessageW(choice, CB_GETLBTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text));
+        entries += (index == 0 ? L" " : L", ") + std::wstring(text);
     }
-    if (className == L"SysListView32") text = Columns(window);
-    if (extended == WS_EX_STATICEDGE) place.right = place.bottom = 0;  // measures itself
+    return entries;
+}
+
+std::wstring KindOf(HWND window) {
+    const std::wstring className = ClassOf(window);
+    const auto extended = static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
+    // Windows adds strings to a choice, and a scroll bar to what is wide.
+    const DWORD style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE)) &
+                        ~DWORD{WS_HSCROLL} &
+                        ~(className == L"ComboBox" ? DWORD{CBS_HASSTRINGS} : 0);
+    for (const auto& [kind, name, kindStyle, kindExtended] : kKinds) {
+        if (name == className && kindStyle == style && kindExtended == extended) {
+            return std::wstring(kind);
+        }
+    }
+    return className + L" of an unknown style";
+}
+
+std::wstring FontOf(HWND window) {
     LOGFONTW font{};
     const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
     GetObjectW(reinterpret_cast<HFONT>(handle), sizeof(font), &font);
-    std::wostringstream told;
-    for (const auto& [kind, name, kindStyle, kindExtended] : kKinds) {
-        if (name == className && kindStyle == style && kindExtended == extended) told << kind;
-    }
-    if (told.str().empty()) told << className << std::hex << style << L' ' << extended << std::dec;
-    told << L' ' << GetDlgCtrlID(window);
-    for (const LONG side : {place.left, place.top, place.right, place.bottom}) {
-        CHECK(Scale(Unscale(side)) == side);
-        told << L' ' << Unscale(side);
-    }
     CHECK((handle == 0 || font.lfFaceName == std::wstring(L"Segoe UI")));
     for (const auto& [name, points, weight] : kFonts) {
         if (font.lfHeight == -MulDiv(points, ScreenDpi(), 72) && font.lfWeight == weight) {
-            told << L' ' << name;
+            return std::wstring(name);
         }
     }
-    return told.str() + (text.empty() ? L"" : L" " + text);
+    return L"unknown font";
+}
+
+// A window as the pictures have it: kind, ID, font where it is not the kind's usual one, place
+// where it is computed, text.
+std::wstring Told(HWND window) {
+    const std::wstring kind = KindOf(window), font = FontOf(window);
+    RECT place = PlaceOf(window);
+    if (kind == L"choice") place.bottom = 0;  // closed, it has the height that its font asks for
+    for (const LONG side : {place.left, place.top, place.right, place.bottom}) {
+        CHECK((kind == L"rule" || Scale(Unscale(side)) == side));
+    }
+    std::wostringstream told;
+    told << kind;
+    if (const int id = GetDlgCtrlID(window); id > 0 && id < 0xFFFF) told << L' ' << id;
+    if (font != (kind == L"label" ? L"label" : L"ui") && font != L"none") told << L' ' << font;
+    const bool isComputed = kind == L"group" || GetWindow(window, GW_OWNER) != nullptr ||
+                            ClassOf(GetParent(window)).starts_with(L"NORVAK_GFE_NATIVE_BAR") ||
+                            ClassOf(GetParent(window)).starts_with(L"NORVAK_GFE_NATIVE_MAIN");
+    if (isComputed) {
+        told << L' ' << Unscale(place.left) << L',' << Unscale(place.top);
+        if (kind != L"choice")
+            told << L' ' << Unscale(place.right) << L'x' << Unscale(place.bottom);
+    }
+    const std::wstring text = kind == L"list"     ? Columns(window)
+                              : kind == L"choice" ? Entries(window)
+                                                  : WindowText(window);
+    return told.str() + (text.empty() ? L"" : L" '" + text + L"'");
+}
+
+bool HasText(HWND control) {
+    const std::wstring kind = ClassOf(control);
+    return (kind == L"Static" || kind == L"Button") && GetWindowTextLengthW(control) > 0;
+}
+
+// What a control's text needs, broken into lines that are as wide as the control.
+RECT SizeOfText(HWND control) {
+    RECT needed{};
+    GetClientRect(control, &needed);
+    const WindowDeviceContext screen(control);
+    const LRESULT font = SendMessageW(control, WM_GETFONT, 0, 0);
+    const SelectGuard selected(screen.Get(), reinterpret_cast<HFONT>(font));
+    DrawTextW(screen.Get(), WindowText(control).c_str(), -1, &needed,
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    return needed;
+}
+
+// What a thing covers of the screen, which of a label is its text.
+RECT Covers(HWND window) {
+    RECT covered{};
+    GetWindowRect(window, &covered);
+    if (ClassOf(window) != L"Static" || !HasText(window)) return covered;
+    const RECT text = SizeOfText(window);
+    return {covered.left, covered.top, covered.left + text.right, covered.top + text.bottom};
+}
+
+bool IsInside(HWND window, HWND frame) {
+    RECT inner{}, outer{}, common{};
+    GetWindowRect(window, &inner);
+    GetWindowRect(frame, &outer);
+    return IntersectRect(&common, &inner, &outer) && EqualRect(&common, &inner);
+}
+
+// What holds for a child of any window, the group that it stands in being the last one before it.
+void CheckRules(HWND window, HWND child, HWND group) {
+    CAPTURE(WindowText(child));
+    CHECK(IsInside(child, window));
+    CHECK((group == nullptr || IsInside(child, group)));
+    CHECK(FitsIts(child));
+    for (HWND other = child; (other = GetWindow(other, GW_HWNDNEXT)) != nullptr;) {
+        const RECT one = Covers(child), two = Covers(other);
+        RECT common{};
+        const bool counts = KindOf(other) != L"group" && IsWindowVisible(other);
+        CHECK_FALSE((counts && IntersectRect(&common, &one, &two)));
+    }
 }
 
 }  // namespace
@@ -120,21 +200,43 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
-std::wstring Section(const std::wstring& name) {
-    const std::wstring file = FromUtf8(TestData(L"ui/windows.txt"));
+std::wstring Picture(const std::wstring& name) {
+    std::wstring file = FromUtf8(TestData(L"pictures.txt"));
+    file.replace(file.find(L"@VERSION@"), 9, kProductVersion);
     const std::size_t start = file.find(L"[" + name + L"]\n");
-    CHECK(start != std::wstring::npos);
+    CAPTURE(name);
+    REQUIRE(start != std::wstring::npos);
     const std::size_t first = start + name.size() + 3;
-    const std::wstring lines = file.substr(first, file.find(L"\n\n", first) - first);
-    return std::regex_replace(lines, std::wregex(L" +"), L" ");
+    return file.substr(first, file.find(L"\n\n", first) - first);
 }
 
-std::vector<std::wstring> ToldWindow(HWND window) {
+void CheckPicture(HWND window, const std::wstring& name) {
     std::vector<std::wstring> lines;
-    if (GetWindow(window, GW_OWNER)) lines.push_back(Line(window));
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        lines.push_back(Line(child));
-    return lines;
+    if (GetWindow(window, GW_OWNER)) lines.push_back(Told(window));
+    HWND group = nullptr;
+    RECT last{LONG_MIN, LONG_MIN, 0, 0};
+    bool isAfterLabel = false;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        const RECT place = PlaceOf(child);
+        const bool isLabel = KindOf(child) == L"label";
+        const bool isLabelled = isAfterLabel && !isLabel && place.left == last.left;
+        if (isLabelled) lines.back() += L" " + Told(child);
+        if (!isLabelled && place.top == last.top) lines.back() += L" | " + Told(child);
+        if (!isLabelled && place.top != last.top) lines.push_back(Told(child));
+        if (!isLabelled) last = place;
+        isAfterLabel = isLabel;
+        if (KindOf(child) == L"group") group = child;
+        if (child != group && IsWindowVisible(child)) CheckRules(window, child, group);
+    }
+    CheckLines(lines, Picture(name));
+}
+
+bool FitsIts(HWND control) {
+    RECT inside{};
+    GetClientRect(control, &inside);
+    if (!HasText(control)) return true;
+    const RECT needed = SizeOfText(control);
+    return needed.right <= inside.right && needed.bottom <= inside.bottom;
 }
 
 std::wstring Cells(HWND list) {

@@ -1,10 +1,9 @@
-// Windows and lists in words.
+// Windows and lists in words, and what holds for every window.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
 namespace tessaline {
 
@@ -14,12 +13,16 @@ namespace tessaline {
 /// from where it is in the middle of its owner.
 [[nodiscard]] RECT PlaceOf(HWND window);
 
-/// A section of tests/data/ui/windows.txt, single blanks between the words.
-[[nodiscard]] std::wstring Section(const std::wstring& name);
+/// A section of tests/data/pictures.txt. An unknown name fails the test.
+[[nodiscard]] std::wstring Picture(const std::wstring& name);
 
-/// A window, if it is a dialog, and every child that it has, in the order of creation, as the
-/// lines of such a section.
-[[nodiscard]] std::vector<std::wstring> ToldWindow(HWND window);
+/// Checks a window and its children against a picture, and against what holds for all windows:
+/// whole pixels at 96 DPI, nothing outside the window or the section that it stands in, nothing
+/// over another thing, every text within its control.
+void CheckPicture(HWND window, const std::wstring& name);
+
+/// Whether a label's or button's text fits the control.
+[[nodiscard]] bool FitsIts(HWND control);
 
 /// The texts of a list, joined by bars, with a semicolon after each row.
 [[nodiscard]] std::wstring Cells(HWND list);
