@@ -1,30 +1,35 @@
-// What the document's code draws, recorded by Windows in a metafile and told in page units, one
-// line for each thing:
-//   text 42,34,440,34 22pt bold 123A50 left: GOOD FAITH ESTIMATE
+// What the program draws, told in page units, one line for each thing:
+//   text 42,34,440,34 22pt bold 123A50 wrapped: GOOD FAITH ESTIMATE
 //   fill 42,117,732,4 1E8B90
 //   frame 42,132,732,63 1E8B90 pen 1
 //   box 42,210,354,150 FFFFFF C8D2D8 pen 1
-// A box is a filled frame. Colours are red, green and blue in hexadecimal. The lines of one text
-// are joined by blanks, so that it does not matter where they are broken.
+// A box is a filled frame. Colours are red, green and blue in hexadecimal, "¶" is a new line.
 #pragma once
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <numeric>
 #include <string>
 #include <vector>
 
 #include "document/page_transform.h"
 #include "platform/handles.h"
 #include "tests/support/rule_table.h"
+#include "tests/support/stand_in.h"
 
 namespace tessaline {
 
 /// A page with an offset.
 inline constexpr PageTransform kOffset{10, 20, 10 + 816 * 2, 20 + 1056 * 2, 2.0, 2.0};
+
+inline std::wstring OnOneLine(std::wstring text) {
+    std::erase(text, L'\r');
+    std::replace(text.begin(), text.end(), L'\n', L'\u00B6');
+    return text;
+}
 
 /// One thing that was drawn, in page units.
 struct Drawn {
@@ -39,113 +44,78 @@ struct Drawn {
     }
 };
 
-/// Everything that `draw(dc)` draws, told in the units of a transform with whole scales.
+/// Everything that `draw(dc)` draws, told in the units of a transform with whole scales, after
+/// which no font, pen or brush is left selected.
 class Recording {
   public:
     template <typename Draw>
     explicit Recording(const Draw& draw, const PageTransform& units = kOffset) : units_(units) {
-        HDC dc = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-        SetBkMode(dc, OPAQUE);  // as every device begins, but not what plays a metafile
-        const auto before = Selection(dc);
-        draw(dc);
-        tidy = Selection(dc) == before;
-        HENHMETAFILE metafile = CloseEnhMetaFile(dc);
-        const DeviceContextOwner player(CreateCompatibleDC(nullptr));
-        const RECT anywhere{0, 0, 100, 100};
-        EnumEnhMetaFile(player.Get(), metafile, ReadRecord, this, &anywhere);
-        DeleteEnhMetaFile(metafile);
-        tidy = tidy && objects_ == 0;
+        const StandIn self(current_, this);
+        const StandIn text(__imp_DrawTextW, Text), fill(__imp_FillRect, Fill);
+        const StandIn frame(__imp_Rectangle, Frame);
+        const DeviceContextOwner memory(CreateCompatibleDC(nullptr));
+        const auto selection = [dc = memory.Get()] {
+            return std::array{GetCurrentObject(dc, OBJ_FONT), GetCurrentObject(dc, OBJ_PEN),
+                              GetCurrentObject(dc, OBJ_BRUSH)};
+        };
+        const auto before = selection();
+        draw(memory.Get());
+        CHECK((selection() == before));
         for (const Drawn& thing : things) lines.push_back(thing.Line());
     }
 
     std::vector<Drawn> things;
     std::vector<std::wstring> lines;  ///< all of them told
-    bool tidy = false;  ///< no call left a font, pen or brush behind, undeleted or selected
 
   private:
-    static std::array<HGDIOBJ, 3> Selection(HDC dc) {
-        return {GetCurrentObject(dc, OBJ_FONT), GetCurrentObject(dc, OBJ_PEN),
-                GetCurrentObject(dc, OBJ_BRUSH)};
-    }
-
-    /// The description of the font, pen or brush that the metafile selected last.
     template <typename Description>
-    static Description Selected(HDC dc, UINT kind) {
+    static Description Describe(HGDIOBJ object) {
         Description description{};
-        GetObjectW(GetCurrentObject(dc, kind), sizeof(description), &description);
+        GetObjectW(object, sizeof(description), &description);
         return description;
     }
 
-    static int CALLBACK ReadRecord(HDC dc, HANDLETABLE* handles, const ENHMETARECORD* record,
-                                   int count, LPARAM self) {
-        reinterpret_cast<Recording*>(self)->Read(dc, *record);
-        return PlayEnhMetaFileRecord(dc, handles, record, static_cast<UINT>(count));
-    }
-
-    void Read(HDC dc, const ENHMETARECORD& record) {
-        switch (record.iType) {
-            case EMR_CREATEBRUSHINDIRECT:
-            case EMR_CREATEPEN:
-            case EMR_EXTCREATEFONTINDIRECTW:
-                tidy = tidy && ++objects_ == 1;
-                break;
-            case EMR_DELETEOBJECT:
-                --objects_;
-                break;
-            case EMR_BITBLT: {
-                const auto& fill = reinterpret_cast<const EMRBITBLT&>(record);
-                const LONG right = fill.xDest + fill.cxDest, bottom = fill.yDest + fill.cyDest;
-                things.push_back({L"fill", Units({fill.xDest, fill.yDest, right, bottom}),
-                                  Hex(Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbColor)});
-                break;
-            }
-            case EMR_RECTANGLE: {
-                // Recorded one pixel short at right and bottom.
-                const RECTL& box = reinterpret_cast<const EMRRECTANGLE&>(record).rclBox;
-                Frame(dc, Units({box.left, box.top, box.right + 1, box.bottom + 1}));
-                break;
-            }
-            case EMR_EXTTEXTOUTW:
-                Text(dc, record);
-                break;
-            default:
-                break;
-        }
-    }
-
-    void Frame(HDC dc, const RECT& place) {
-        const auto pen = Selected<LOGPEN>(dc, OBJ_PEN);
-        const bool hollow = Selected<LOGBRUSH>(dc, OBJ_BRUSH).lbStyle == BS_HOLLOW;
-        const bool filled = !things.empty() && EqualRect(&things.back().place, &place);
-        if (!filled) things.push_back({L"", place, L""});
-        things.back().kind = !hollow ? L"solid" : filled ? L"box" : L"frame";
-        std::wstring& look = things.back().look;
-        look += (filled ? L" " : L"") + Hex(pen.lopnColor) + L" pen " + Told(pen.lopnWidth.x);
-    }
-
-    void Text(HDC dc, const ENHMETARECORD& record) {
-        const EMRTEXT& text = reinterpret_cast<const EMREXTTEXTOUTW&>(record).emrtext;
-        const auto* bytes = reinterpret_cast<const BYTE*>(&record);
-        const auto* advances = reinterpret_cast<const INT*>(bytes + text.offDx);
-        const std::wstring words(reinterpret_cast<const wchar_t*>(bytes + text.offString),
-                                 text.nChars);
-        const auto font = Selected<LOGFONTW>(dc, OBJ_FONT);
-        const auto [x, y] = text.ptlReference;
-        const LONG end = std::accumulate(advances, advances + text.nChars, x);
-        const RECT place = Units(text.rcl);
-        if (!things.empty() && EqualRect(&things.back().place, &place)) {
-            // The next line of the same text.
-            std::wstring& look = things.back().look;
-            look += (look.ends_with(L' ') || look.ends_with(L'/') ? L"" : L" ") + words;
-            return;
-        }
-        std::wstring how = Told(std::lround(-font.lfHeight * 0.75 / units_.scaleY)) +
+    static int WINAPI Text(HDC dc, LPCWSTR words, int, LPRECT place, UINT format) {
+        const auto font = Describe<LOGFONTW>(GetCurrentObject(dc, OBJ_FONT));
+        std::wstring how = Told(std::lround(-font.lfHeight * 0.75 / current_->units_.scaleY)) +
                            (font.lfWeight == FW_SEMIBOLD ? L"pt bold " : L"pt ") +
                            Hex(GetTextColor(dc));
+        constexpr std::pair<UINT, const wchar_t*> kFlags[] = {
+            {DT_CENTER, L" centre"},     {DT_RIGHT, L" right"},    {DT_WORDBREAK, L" wrapped"},
+            {DT_SINGLELINE, L" single"}, {DT_VCENTER, L" middle"}, {DT_END_ELLIPSIS, L" cut"}};
+        for (const auto& [flag, name] : kFlags) how += (format & flag) != 0 ? name : L"";
         if (GetBkMode(dc) != TRANSPARENT) how += L" opaque";
-        how += x == text.rcl.left ? L" left" : end == text.rcl.right ? L" right" : L" centre";
-        how += y > text.rcl.top ? L" middle: " : L": ";
-        things.push_back({L"text", place, how + words});
+        if ((format & DT_NOPREFIX) == 0) how += L" prefixed";
+        current_->Add(L"text", *place, how + L": " + OnOneLine(words));
+        return 1;
+    }
+
+    static int WINAPI Fill(HDC, const RECT* place, HBRUSH brush) {
+        current_->Add(L"fill", *place, Hex(Describe<LOGBRUSH>(brush).lbColor));
+        return 1;
+    }
+
+    // Of what was filled just before, it makes a box.
+    static BOOL WINAPI Frame(HDC dc, int left, int top, int right, int bottom) {
+        const auto pen = Describe<LOGPEN>(GetCurrentObject(dc, OBJ_PEN));
+        const auto brush = Describe<LOGBRUSH>(GetCurrentObject(dc, OBJ_BRUSH));
+        current_->Add(brush.lbStyle == BS_HOLLOW ? L"frame" : L"solid", {left, top, right, bottom},
+                      Hex(pen.lopnColor) + L" pen " + Told(pen.lopnWidth.x));
+        auto& things = current_->things;
+        const std::size_t last = things.size() - 1;
+        if (last > 0 && EqualRect(&things[last - 1].place, &things[last].place)) {
+            things[last - 1] = {L"box", things[last].place,
+                                things[last - 1].look + L" " + things[last].look};
+            things.pop_back();
+        }
+        return TRUE;
+    }
+
+    void Add(const wchar_t* kind, const RECT& pixels, const std::wstring& look) {
+        const auto x = [this](LONG at) { return LONG((at - units_.left) / units_.scaleX); };
+        const auto y = [this](LONG at) { return LONG((at - units_.top) / units_.scaleY); };
+        const RECT place{x(pixels.left), y(pixels.top), x(pixels.right), y(pixels.bottom)};
+        things.push_back({kind, place, look});
     }
 
     static std::wstring Hex(COLORREF colour) {
@@ -155,14 +125,8 @@ class Recording {
         return text;
     }
 
-    [[nodiscard]] RECT Units(const RECTL& pixels) const {
-        const auto x = [this](LONG at) { return LONG((at - units_.left) / units_.scaleX); };
-        const auto y = [this](LONG at) { return LONG((at - units_.top) / units_.scaleY); };
-        return {x(pixels.left), y(pixels.top), x(pixels.right), y(pixels.bottom)};
-    }
-
+    static inline Recording* current_ = nullptr;
     PageTransform units_;
-    int objects_ = 0;  // fonts, pens and brushes alive
 };
 
 }  // namespace tessaline

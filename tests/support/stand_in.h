@@ -13,13 +13,16 @@ extern "C" {
 extern decltype(&AbortDoc) __imp_AbortDoc;
 extern decltype(&BeginPaint) __imp_BeginPaint;
 extern decltype(&DeleteDC) __imp_DeleteDC;
+extern decltype(&DrawTextW) __imp_DrawTextW;
 extern decltype(&EndDoc) __imp_EndDoc;
 extern decltype(&EndPage) __imp_EndPage;
+extern decltype(&FillRect) __imp_FillRect;
 extern decltype(&FindFirstFileW) __imp_FindFirstFileW;
 extern decltype(&FlushFileBuffers) __imp_FlushFileBuffers;
 extern decltype(&GetDeviceCaps) __imp_GetDeviceCaps;
 extern decltype(&GetMonitorInfoW) __imp_GetMonitorInfoW;
 extern decltype(&PrintDlgW) __imp_PrintDlgW;
+extern decltype(&Rectangle) __imp_Rectangle;
 extern decltype(&StartDocW) __imp_StartDocW;
 extern decltype(&StartPage) __imp_StartPage;
 }

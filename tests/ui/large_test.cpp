@@ -3,6 +3,9 @@
 
 #include <psapi.h>
 
+#include <climits>
+
+#include "document/estimate_pages.h"
 #include "document/preview.h"
 #include "tests/support/record_values.h"
 #include "tests/ui/running_program.h"
@@ -10,13 +13,20 @@
 
 using namespace tessaline;
 
-TEST_CASE("Texts of a million characters come back from the form, and previews let go of them") {
+TEST_CASE("Texts of a million characters come back from the form, are drawn, and are let go of") {
     RunningProgram program(96);
     Estimate estimate;
     estimate.Patient.FirstName = estimate.ProviderNotes = std::wstring(1'000'000, L'x');
+    const std::wstring& word = estimate.ProviderNotes;
+    estimate.Lines.assign(7, {word, word, word, word, word, INT_MIN, 1e308});
+    estimate.SeparateItems = {{word, word}};
     BindToForm(estimate);
     ReadForm();
     CHECK(Differences(program.app.currentEstimate, estimate) == L"LastModifiedOn ");
+    const WindowDeviceContext screen(nullptr);
+    for (const int page : {0, 1}) {
+        DrawEstimatePage(screen.Get(), PreviewTransform(884, 941), estimate, page, false);
+    }
     const auto memoryInUse = [] {
         PROCESS_MEMORY_COUNTERS counters{};
         GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));

@@ -294,6 +294,7 @@ void CheckPainting(Story& s) {
     const StandIn paint(__imp_BeginPaint,
                         [](HWND, LPPAINTSTRUCT given) { return given->hdc = windows.paper; });
     const double scale = ScreenDpi() / 96.0;
+    ValidateRect(s.target, nullptr);  // or Windows has it erased once more, on the screen
     const Recording painted(
         [&](HDC dc) {
             windows.paper = dc;
