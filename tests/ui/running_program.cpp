@@ -5,6 +5,7 @@
 #include "platform/controls.h"
 #include "platform/scale.h"
 #include "platform/theme.h"
+#include "store/catalogue.h"
 #include "store/estimate_file.h"
 #include "tests/support/readable.h"
 #include "tests/support/record_values.h"
@@ -61,6 +62,10 @@ std::wstring DescribeBox(HWND box, const std::wstring& expected, HWND& answer) {
     return icon + L" " + WindowText(box) + L": " + text + L" [" + buttons.substr(1) + L"]";
 }
 
+HWND Preview() {
+    return FindWindowW(L"GFE_Native_Preview", nullptr);
+}
+
 bool IsWaiting() {
     return GetCursor() == LoadCursorW(nullptr, IDC_WAIT);
 }
@@ -94,7 +99,7 @@ RunningProgram::~RunningProgram() {
     }
     Settle();
     // Previews go with their owner.
-    CHECK(FindWindowExW(nullptr, nullptr, L"GFE_Native_Preview", nullptr) == nullptr);
+    CHECK(Preview() == nullptr);
     KillTimer(nullptr, timer_);
     PublishAppState(nullptr);
 }
@@ -109,13 +114,34 @@ int RunningProgram::Settle() const {
     return quitCode;
 }
 
-void RunningProgram::CheckFile() const {
+void RunningProgram::PutFiles() const {
+    // The first of the lists.
+    Estimate full = DistinctEstimate();
+    full.LastModifiedOn = 4'000'000'000;
+    REQUIRE(store.PutEstimate(L"full.gfe", full));
+    REQUIRE(store.Put(L"..\\data.key", TestData(L"legacy-data.key")));
+    REQUIRE(store.Put(L"older.gfe", TestData(L"legacy-estimate.gfe")));
+}
+
+void RunningProgram::CheckFiles() const {
+    std::size_t files = 0;
+    ForEachFile(app.store.EstimatesFolder, L"*", [&](const auto&) { return ++files > 0; });
+    CHECK(files >= 2);
+    CHECK(LoadAllEstimates(app.store).size() == files);
+}
+
+void RunningProgram::CheckForm() const {
     if (app.IsModified || app.CurrentFilePath.empty()) return;
     Estimate saved;
     std::wstring error;
     CHECK(LoadEstimateFile(app.store, app.CurrentFilePath, saved, error));
     saved.LastModifiedOn = app.currentEstimate.LastModifiedOn;  // when the form was last read
     CHECK(Differences(saved, app.currentEstimate) == L"");
+}
+
+void RunningProgram::CloseOutput() const {
+    while (const HWND preview = Preview()) DestroyWindow(preview);
+    CHECK(printJobs.begun == printJobs.ended + printJobs.aborted);
 }
 
 }  // namespace tessaline

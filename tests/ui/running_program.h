@@ -21,6 +21,9 @@ namespace tessaline {
 /// Whether the wait cursor shows.
 [[nodiscard]] bool IsWaiting();
 
+/// The preview that is on top.
+[[nodiscard]] HWND Preview();
+
 /// One at a time.
 class RunningProgram {
   public:
@@ -38,8 +41,17 @@ class RunningProgram {
     /// From now on this user deals with every box and dialog, each time that its loop is idle.
     void LeaveTo(std::function<void(HWND modal)> user) { user_ = std::move(user); }
 
+    /// Puts an estimate whose fields are all distinct, an older one and the older edition's key.
+    void PutFiles() const;
+
+    /// Every file loads.
+    void CheckFiles() const;
+
     /// A form without changes is what its file holds, if it has one.
-    void CheckFile() const;
+    void CheckForm() const;
+
+    /// Closes every preview, and sees that no print job is left open.
+    void CloseOutput() const;
 
   private:
     std::function<void(HWND)> user_;

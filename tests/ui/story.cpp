@@ -34,7 +34,6 @@ namespace {
 // What is different in Windows while a story is played, and what it notices.
 struct {
     bool hasPrinter = false;
-    std::wstring drive;
     std::wstring searches;
     HDC paper = nullptr;
 } windows;
@@ -49,8 +48,6 @@ BOOL WINAPI ChoosePrinter(LPPRINTDLGW dialog) {
 
 HANDLE WINAPI SearchFolder(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
     windows.searches += IsWaiting() ? L"waiting " : L"unnoticed ";
-    if (windows.drive == L"slow") Sleep(2000);
-    if (windows.drive == L"without memory") throw std::bad_alloc();
     return FindFirstFileExW(pattern, FindExInfoStandard, found, FindExSearchNameMatch, nullptr, 0);
 }
 
@@ -90,11 +87,6 @@ struct Story {
     }
 };
 
-// The preview that is on top.
-HWND Preview() {
-    return FindWindowW(L"GFE_Native_Preview", nullptr);
-}
-
 // The control that shows the field of the record with that name, such as "Patient.Zip".
 HWND FieldControl(const std::wstring& name) {
     Estimate probe;
@@ -116,8 +108,8 @@ HWND ControlWithWords(HWND parent, const std::wstring& words, HWND after = nullp
     return isLabel ? next : found;
 }
 
-// What a name stands for in a window: a part of the program, a field of the record, one of the two
-// lists or a button beside one ("Edit Lines"), words on the screen. Without a name it is the
+// What a name stands for in a window: a part of the program, a field of the record, words on the
+// screen, words below one of the parts ("Edit Lines", "City Provider"). Without a name it is the
 // window itself. An unknown name fails the story.
 HWND Find(const Story& s, const std::wstring& name) {
     const AppState& app = s.app;
@@ -135,6 +127,7 @@ HWND Find(const Story& s, const std::wstring& name) {
         {L"preview", Preview()},
         {L"dialog", s.dialog},
         {L"main", app.mainWindow},
+        {L"Provider", ControlById(kProviderLookupButton)},
         {L"Lines", app.linesList},
         {L"SeparateItems", app.separateList},
         {L"list", FindWindowExW(s.window, nullptr, WC_LISTVIEWW, nullptr)}};
@@ -411,9 +404,6 @@ const std::map<std::wstring, Verb> kVerbs = {
         CHECK(SetValue(estimate, s.first, s.text));
         s.Bind(estimate); }},
     {L"printer", [](Story&) { windows.hasPrinter = true; }},
-    {L"drive", [](Story& s) {
-        CHECK((s.words == L"slow" || s.words == L"without memory"));
-        windows.drive = s.words; }},
     {L"put", [](Story& s) {
         ReadForm();
         s.app.currentEstimate.LastModifiedOn = s.Number();
@@ -423,10 +413,6 @@ const std::map<std::wstring, Verb> kVerbs = {
     {L"forget", [](Story& s) { s.app.CurrentFilePath.clear(); }},
     {L"copy", [](Story& s) { CHECK(s.program.store.Put(s.text, TestData(s.first))); }},
     {L"folder", [](Story& s) { s.app.store = LocalStoreBelow(_wgetenv(L"TESSALINE_FOLDER")); }},
-    {L"unplug", [](Story& s) {
-        wchar_t drive = L'Z';
-        while ((GetLogicalDrives() >> (drive - L'A') & 1U) != 0) --drive;
-        s.app.store = LocalStoreBelow(std::wstring(1, drive) + L":"); }},
     {L"remove", [](Story& s) {
         CHECK(std::filesystem::remove_all(s.app.store.EstimatesFolder + L"/" + s.words) > 0); }},
     {L"unlock", [](Story& s) { s.locks.clear(); }},
