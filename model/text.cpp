@@ -49,24 +49,26 @@ std::wstring DigitsOnly(std::wstring_view text) {
     return digits;
 }
 
-std::wstring ToUpper(std::wstring_view text) {
-    std::wstring upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(), UpperOf);
-    return upper;
+std::wstring ToUpper(std::wstring text) {
+    std::transform(text.begin(), text.end(), text.begin(), UpperOf);
+    return text;
 }
 
-std::wstring ToLower(std::wstring_view text) {
-    std::wstring lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), LowerOf);
-    return lower;
+std::wstring ToLower(std::wstring text) {
+    std::transform(text.begin(), text.end(), text.begin(), LowerOf);
+    return text;
 }
 
 bool ContainsNoCase(std::wstring_view haystack, std::wstring_view needle) {
-    return ToLower(haystack).find(ToLower(needle)) != std::wstring::npos;
+    return ToLower(std::wstring(haystack)).find(ToLower(std::wstring(needle))) !=
+           std::wstring::npos;
 }
 
 std::wstring JoinName(const PatientInfo& patient) {
-    std::wstring name = patient.FirstName;
+    std::wstring name;
+    name.reserve(patient.FirstName.size() + patient.MiddleName.size() + patient.LastName.size() +
+                 2);
+    name += patient.FirstName;
     AppendPiece(name, L" ", patient.MiddleName);
     AppendPiece(name, L" ", patient.LastName);
     return name;

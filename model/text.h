@@ -19,10 +19,10 @@ namespace tessaline {
 [[nodiscard]] std::wstring DigitsOnly(std::wstring_view text);
 
 /// Upper case by the current locale, character by character, so that the length stays the same.
-[[nodiscard]] std::wstring ToUpper(std::wstring_view text);
+[[nodiscard]] std::wstring ToUpper(std::wstring text);
 
 /// Lower case, likewise.
-[[nodiscard]] std::wstring ToLower(std::wstring_view text);
+[[nodiscard]] std::wstring ToLower(std::wstring text);
 
 /// Whether `needle` occurs in `haystack` as one run, ignoring case. An empty needle occurs in all.
 [[nodiscard]] bool ContainsNoCase(std::wstring_view haystack, std::wstring_view needle);

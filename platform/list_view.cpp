@@ -37,23 +37,6 @@ HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColum
     return list;
 }
 
-void AppendListRow(HWND list, LPARAM data, std::span<const std::wstring> cells) {
-    LVITEMW item{};
-    item.iItem = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    item.lParam = data;
-    for (const std::wstring& cell : cells) {
-        item.pszText = const_cast<wchar_t*>(cell.c_str());  // only read
-        if (item.iSubItem == 0) {
-            item.mask = LVIF_TEXT | LVIF_PARAM;
-            SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        } else {
-            item.mask = LVIF_TEXT;
-            SendMessageW(list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        }
-        ++item.iSubItem;
-    }
-}
-
 int SelectedRowData(HWND list) {
     const LRESULT row =
         SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
@@ -74,6 +57,23 @@ ListFill::ListFill(HWND list, std::size_t expectedRows) : list_(list) {
 ListFill::~ListFill() {
     SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list_, nullptr, TRUE);
+}
+
+void ListFill::Append(LPARAM data, std::span<const std::wstring> cells) {
+    LVITEMW item{};
+    item.iItem = rows_++;
+    item.lParam = data;
+    for (const std::wstring& cell : cells) {
+        item.pszText = const_cast<wchar_t*>(cell.c_str());  // only read
+        if (item.iSubItem == 0) {
+            item.mask = LVIF_TEXT | LVIF_PARAM;
+            SendMessageW(list_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        } else {
+            item.mask = LVIF_TEXT;
+            SendMessageW(list_, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        }
+        ++item.iSubItem;
+    }
 }
 
 }  // namespace tessaline

@@ -48,10 +48,6 @@ template <typename Element, std::size_t Count>
 /// A list with single selection, whole rows selected, grid lines and double buffering.
 HWND MakeListView(HWND parent, int id, const Box& box, std::span<const ListColumn> columns);
 
-/// Appends a row that carries `data`, with one text for each column. Callers that fill a list keep
-/// a `ListFill` meanwhile.
-void AppendListRow(HWND list, LPARAM data, std::span<const std::wstring> cells);
-
 /// The data of the selected row, or -1 when none is selected.
 [[nodiscard]] int SelectedRowData(HWND list);
 
@@ -64,8 +60,12 @@ class ListFill {
     ListFill& operator=(const ListFill&) = delete;
     ~ListFill();
 
+    /// Appends a row that carries `data`, with one text for each column.
+    void Append(LPARAM data, std::span<const std::wstring> cells);
+
   private:
     HWND list_;
+    int rows_ = 0;
 };
 
 }  // namespace tessaline

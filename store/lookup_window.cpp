@@ -107,11 +107,11 @@ int ShowLookup(LookupState& state, const wchar_t* title) {
 
 void FillLookupList(const LookupState& state) {
     const std::wstring wanted = ToLower(Trim(WindowText(state.searchBox)));
-    const ListFill fill(state.list, state.rows.size());
+    ListFill fill(state.list, state.rows.size());
     LPARAM index = 0;
     for (const LookupRow& row : state.rows) {
         if (row.searchText.find(wanted) != std::wstring::npos) {
-            AppendListRow(state.list, index, row.cells);
+            fill.Append(index, row.cells);
         }
         ++index;
     }

@@ -55,9 +55,9 @@ std::wstring TotalText(const Estimate& estimate) {
 }
 
 void ShowRows(HWND list, const RowTexts& rows) {
-    const ListFill fill(list, rows.size());
+    ListFill fill(list, rows.size());
     LPARAM index = 0;
-    for (const auto& row : rows) AppendListRow(list, index++, row);
+    for (const auto& row : rows) fill.Append(index++, row);
 }
 
 }  // namespace
