@@ -1,7 +1,6 @@
 // The record's values by name: walked, set from texts, read from tables, made all different.
 #pragma once
 
-#include <string>
 #include <type_traits>
 
 #include "store/native_versions.h"
@@ -9,56 +8,47 @@
 
 namespace tessaline {
 
-/// Calls `visit(name, value)` for every field of a record, also those that version 1 does not
-/// hold.
+/// Calls `visit(path, value)` for every text, number, flag and list of a record in stored order,
+/// and for what is in its lists. Paths are such as "Patient.Zip" and "Lines.1.Quantity".
 template <typename Record, typename Visit>
-void ForEachMember(Record& record, const Visit& visit) {
+void ForEachValue(Record& record, const Visit& visit, const std::wstring& above = {}) {
+    const auto visitField = [&](const wchar_t* name, auto& field) {
+        const std::wstring path = above + name;
+        if constexpr (requires { FieldsOf(field); }) {
+            ForEachValue(field, visit, path + L".");
+        } else {
+            visit(path, field);
+        }
+        if constexpr (requires { FieldsOf(field.front()); }) {
+            for (std::size_t i = 0; i < field.size(); ++i) {
+                ForEachValue(field[i], visit, path + L"." + std::to_wstring(i) + L".");
+            }
+        }
+    };
     if constexpr (std::is_same_v<std::remove_const_t<Record>, Estimate>) {
-        ForEachNativeField(record, kNewestVersion, visit);
+        ForEachNativeField(record, kNewestVersion, visitField);
     } else {
-        ForEachField(record, visit);
+        ForEachField(record, visitField);
     }
 }
 
-/// Calls `visit(name, value)` for every text, number and flag in a record or list, and in the
-/// records and lists in it, in stored order.
-template <typename Value, typename Visit>
-void ForEachValue(const wchar_t* name, Value& value, const Visit& visit) {
-    if constexpr (requires { FieldsOf(value); }) {
-        ForEachMember(
-            value, [&](const wchar_t* field, auto& inner) { ForEachValue(field, inner, visit); });
-    } else if constexpr (requires { FieldsOf(value.front()); }) {
-        for (auto& element : value) ForEachValue(name, element, visit);
-    } else {
-        visit(name, value);
-    }
-}
-
-/// Sets the value at a path such as "Patient.Zip" or "Lines.1.Quantity", or a list's size. False
-/// when there is no such value.
-template <typename Value>
-bool SetValue(Value& value, const std::wstring& path, const std::wstring& text) {
-    const std::wstring head = path.substr(0, path.find(L'.'));
-    const std::wstring rest = path.substr(std::min(head.size() + 1, path.size()));
-    if constexpr (requires { FieldsOf(value); }) {
-        bool isSet = false;
-        ForEachMember(value, [&](const std::wstring& name, auto& field) {
-            if (name == head) isSet = SetValue(field, rest, text);
-            if (name == path && !rest.empty()) isSet = SetValue(field, L"", text);
-        });
-        return isSet;
-    } else if constexpr (requires { FieldsOf(value.front()); }) {
-        if (!head.empty()) return SetValue(value.at(std::stoul(head)), rest, text);
-        value.resize(std::stoul(text));
-        return true;
-    } else {
+/// Sets the value at a path, or a list's size. False when there is no such value.
+template <typename Record>
+bool SetValue(Record& record, const std::wstring& path, const std::wstring& text) {
+    bool isSet = false;
+    ForEachValue(record, [&](const std::wstring& visited, auto& value) {
+        if (visited != path) return;
+        using Value = std::remove_reference_t<decltype(value)>;
         if constexpr (std::is_same_v<Value, std::wstring>) {
             value = text;
-        } else {
+        } else if constexpr (std::is_arithmetic_v<Value>) {
             value = static_cast<Value>(std::stod(text));
+        } else {
+            value.resize(std::stoul(text));
         }
-        return true;
-    }
+        isSet = true;
+    });
+    return isSet;
 }
 
 /// Sets a field that is told as "Path: value".
@@ -82,10 +72,9 @@ Record RecordWith(const std::wstring& given) {
 /// The record that these rules of record.txt describe.
 inline Estimate RecordOf(const std::set<std::wstring>& rules) {
     Estimate estimate;
-    for (const RuleRow& row : RowsOf(L"record.txt")) {
-        CAPTURE(row.place);
-        if (!rules.contains(row.cells[0])) continue;
-        for (std::size_t i = 1; i < row.cells.size(); ++i) SetField(estimate, row.cells[i]);
+    for (const RowCells& row : RowsOf(L"record.txt")) {
+        if (!rules.contains(row[0])) continue;
+        for (std::size_t i = 1; i < row.size(); ++i) SetField(estimate, row[i]);
     }
     return estimate;
 }
@@ -96,33 +85,33 @@ inline Estimate RecordOf(const std::set<std::wstring>& rules) {
 /// records without a common value.
 [[nodiscard]] inline Estimate DistinctEstimate(int seed = 100) {
     Estimate estimate;
-    estimate.Lines.resize(2);
-    estimate.SeparateItems.resize(2);
-    ForEachValue(L"", estimate, [&seed](const std::wstring& name, auto& value) {
+    ForEachValue(estimate, [&seed](const std::wstring& path, auto& value) {
         using Value = std::remove_reference_t<decltype(value)>;
         if constexpr (std::is_same_v<Value, std::wstring>) {
-            value = name + L" " + std::to_wstring(seed++);
+            value = path.substr(path.rfind(L'.') + 1) + L" " + std::to_wstring(seed++);
         } else if constexpr (std::is_same_v<Value, bool>) {
             value = true;
+        } else if constexpr (std::is_floating_point_v<Value>) {
+            value = seed++ + 0.1;
+        } else if constexpr (std::is_integral_v<Value>) {
+            value = seed++;
         } else {
-            value = static_cast<Value>(seed++);
-            if constexpr (std::is_floating_point_v<Value>) value += 0.1;
+            value.resize(2);
         }
     });
     return estimate;
 }
 
-/// The names of the fields in which two records differ, each followed by a blank.
+/// The paths of the values in which two records differ, each followed by a blank.
 [[nodiscard]] inline std::wstring Differences(const Estimate& left, const Estimate& right) {
-    std::wstring names;
-    ForEachMember(left, [&](const std::wstring& name, const auto& value) {
-        ForEachMember(right, [&](const std::wstring& other, const auto& second) {
-            if constexpr (std::is_same_v<decltype(value), decltype(second)>) {
-                if (name == other && !(value == second)) names += name + L" ";
-            }
-        });
+    std::map<std::wstring, std::wstring> values;
+    ForEachValue(right,
+                 [&](const std::wstring& path, const auto& value) { values[path] = Told(value); });
+    std::wstring paths;
+    ForEachValue(left, [&](const std::wstring& path, const auto& value) {
+        if (values[path] != Told(value)) paths += path + L" ";
     });
-    return names;
+    return paths;
 }
 
 }  // namespace tessaline

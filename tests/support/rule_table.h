@@ -1,6 +1,6 @@
-// Tables of cases in tests/data/rules: one case a line, as "rule | given | ... | result". Blanks
-// around a cell do not count, but "·" is one that does, and "<U+0009>" is the unit of that number.
-// Lines that begin with "#" are remarks.
+// Tables of cases in tests/data/rules, as "rule | given | ... | result". A row may give several
+// cases with the same result. Blanks around a cell do not count, but "·" is one that does, and
+// "<U+0009>" is the unit of that number. Lines that begin with "#" are remarks.
 #pragma once
 
 #include <algorithm>
@@ -18,12 +18,7 @@
 
 namespace tessaline {
 
-using RowCells = std::vector<std::wstring>;
-
-struct RuleRow {
-    std::wstring place;  ///< for the messages of failures
-    RowCells cells;      ///< the rule's name is the first
-};
+using RowCells = std::vector<std::wstring>;  ///< the rule's name is the first
 
 inline std::wstring CellText(std::wstring cell) {
     cell.erase(0, std::min(cell.find_first_not_of(L' '), cell.size()));
@@ -37,16 +32,15 @@ inline std::wstring CellText(std::wstring cell) {
 }
 
 /// The rows of a table, of which there is at least one.
-inline std::vector<RuleRow> RowsOf(const std::wstring& file) {
+inline std::vector<RowCells> RowsOf(const std::wstring& file) {
     std::wistringstream lines(FromUtf8(TestData(L"rules/" + file)));
-    std::vector<RuleRow> rows;
-    std::wstring line;
-    for (int number = 1; std::getline(lines, line); ++number) {
+    std::vector<RowCells> rows;
+    for (std::wstring line; std::getline(lines, line);) {
         if (line.empty() || line[0] == L'#') continue;
-        rows.push_back({file + L" line " + std::to_wstring(number), {}});
+        rows.emplace_back();
         std::wistringstream cells(line + L"|");
         for (std::wstring cell; std::getline(cells, cell, L'|');) {
-            rows.back().cells.push_back(CellText(cell));
+            rows.back().push_back(CellText(cell));
         }
     }
     REQUIRE_FALSE(rows.empty());
@@ -66,7 +60,12 @@ requires std::is_arithmetic_v<Number> std::wstring Told(Number number) {
     return {digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr};
 }
 
-/// A function of texts, called with a row's cells but the first and the last one.
+template <typename Element>
+std::wstring Told(const std::vector<Element>& list) {
+    return Told(list.size());
+}
+
+/// A function of one or more texts.
 struct Rule {
     template <typename Function>
     Rule(Function function)  // NOLINT(google-explicit-constructor)
@@ -74,27 +73,31 @@ struct Rule {
 
     template <typename Result, typename... Texts>
     Rule(std::function<Result(Texts...)> function)  // NOLINT(google-explicit-constructor)
-        : tell([function](const RowCells& cells) {
-              REQUIRE(cells.size() == sizeof...(Texts) + 2);
+        : textCount(sizeof...(Texts)), tell([function](const std::wstring* texts) {
               const auto call = [&]<std::size_t... At>(std::index_sequence<At...>) {
-                  return Told(function(cells[At + 1]...));
+                  return Told(function(texts[At]...));
               };
-              return call(std::make_index_sequence<sizeof...(Texts)>());
+              return call(std::index_sequence_for<Texts...>());
           }) {}
 
-    std::function<std::wstring(const RowCells&)> tell;
+    std::size_t textCount;
+    std::function<std::wstring(const std::wstring* texts)> tell;
 };
 
 /// Checks that in every row of a table the last cell is what the row's rule tells of those before
 /// it, and that every rule has a row.
 inline void CheckRules(const std::wstring& file, const std::map<std::wstring, Rule>& rules) {
     std::set<std::wstring> checked;
-    for (const RuleRow& row : RowsOf(file)) {
-        CAPTURE(row.place);
-        const auto rule = rules.find(row.cells[0]);
-        REQUIRE(rule != rules.end());
-        CHECK(rule->second.tell(row.cells) == row.cells.back());
-        checked.insert(rule->first);
+    for (const RowCells& row : RowsOf(file)) {
+        REQUIRE(rules.contains(row[0]));
+        const Rule& rule = rules.at(row[0]);
+        REQUIRE(row.size() >= 2 + rule.textCount);
+        REQUIRE((row.size() - 2) % rule.textCount == 0);
+        for (std::size_t at = 1; at + 1 < row.size(); at += rule.textCount) {
+            INFO(row[0], L" | ", row[at]);
+            CHECK(rule.tell(&row[at]) == row.back());
+        }
+        checked.insert(row[0]);
     }
     CHECK(checked.size() == rules.size());
 }

@@ -42,15 +42,13 @@ template <typename Value>
 class StandIn {
   public:
     StandIn(Value& place, std::type_identity_t<Value> own) : place_(place), before_(place) {
-        Put(own);
+        Write(place, own);
     }
     StandIn(const StandIn&) = delete;
     StandIn& operator=(const StandIn&) = delete;
-    ~StandIn() { Put(before_); }
+    ~StandIn() { Write(place_, before_); }
 
   private:
-    void Put(Value value) { Write(place_, value); }
-
     Value& place_;
     Value before_;
 };
@@ -72,9 +70,8 @@ inline void PretendPrinter() {
         return TRUE;
     });
     Write(__imp_StartDocW, [](HDC, const DOCINFOW*) { return ++printJobs.begun; });
-    for (auto* const page : {&__imp_StartPage, &__imp_EndPage}) {
-        Write(*page, [](HDC) { return 1; });
-    }
+    Write(__imp_StartPage, [](HDC) { return 1; });
+    Write(__imp_EndPage, [](HDC) { return 1; });
     Write(__imp_EndDoc, [](HDC) { return ++printJobs.ended; });
     Write(__imp_AbortDoc, [](HDC) { return ++printJobs.aborted; });
 }

@@ -19,9 +19,8 @@ class TemporaryStore : public LocalStore {
   public:
     TemporaryStore() {
         static int count = 0;
-        folder_ = std::filesystem::temp_directory_path() /
-                  (L"tessaline-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                   std::to_wstring(++count));
+        folder_ /= L"tessaline-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                   std::to_wstring(++count);
         // A run with the same process id that was ended early may have left its folder.
         Remove();
         LocalStore::operator=(LocalStoreBelow(folder_.wstring()));
@@ -59,7 +58,7 @@ class TemporaryStore : public LocalStore {
         std::filesystem::remove_all(folder_, ignored);
     }
 
-    std::filesystem::path folder_;
+    std::filesystem::path folder_ = std::filesystem::temp_directory_path();
 };
 
 }  // namespace tessaline
