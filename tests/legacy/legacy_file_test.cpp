@@ -4,7 +4,6 @@
 
 #include "legacy/legacy_key.h"
 #include "legacy/legacy_mapping.h"
-#include "legacy/sha256.h"
 #include "tests/support/record_values.h"
 #include "tests/support/temporary_store.h"
 
@@ -15,21 +14,16 @@ namespace {
 constexpr wchar_t kNotDecrypted[] = L"Could not decrypt the legacy estimate.";
 
 std::wstring Hex(ByteView bytes) {
-    std::wstring text;
-    for (const std::uint8_t byte : bytes) {
-        text += L"0123456789abcdef"[byte / 16];
-        text += L"0123456789abcdef"[byte % 16];
-    }
-    return text;
+    std::wostringstream text;
+    for (const int byte : bytes) text << std::hex << byte / 16 << byte % 16;
+    return text.str();
 }
 
 // A user's folders with the key file that the files in tests/data are encrypted under.
 struct OldFolder {
     OldFolder() { UseKey(TestData(L"legacy-data.key")); }
 
-    void UseKey(ByteView key) const {
-        REQUIRE(WriteFileBytes(store.BaseFolder + L"\\data.key", key));
-    }
+    void UseKey(ByteView key) const { REQUIRE(store.Put(L"..\\data.key", key)); }
 
     // What reading says: "read" and the identifier, the text for the user, or "nothing".
     std::wstring Read(ByteView file) {
@@ -43,66 +37,56 @@ struct OldFolder {
     Estimate estimate;
 };
 
-// The identifier of the estimate that a document is.
-std::wstring Map(std::wstring_view json, Estimate& estimate) {
+Estimate mapped;
+
+// The identifier of the estimate that a document is, or what is left of a default record.
+std::wstring Map(std::wstring_view json) {
     JsonCursor cursor{json};
     JsonValue root;
+    mapped = {};
     if (!ParseValue(cursor, root)) return L"unread";
-    return MapLegacyEstimate(root, estimate) ? estimate.EstimateId : L"no estimate";
+    if (MapLegacyEstimate(root, mapped)) return mapped.EstimateId;
+    return mapped == Estimate() ? L"untouched" : L"no estimate";
 }
 
-// What a JSON value gives to fields of every type, in the order of the document.
-std::wstring ValueEverywhere(const std::wstring& json) {
+// The values of a record that are not empty, 0 or false, where a JSON value stands in place of
+// fields of every type, and as the second line.
+std::wstring ValueEverywhere(Cell json) {
     static const std::wstring document =
         LR"({"EstimateId":@,"RevisionNumber":@,"CreatedOn":@,"NotYetScheduled":@,"Patient":@,)"
         LR"("Provider":{"State":@},"Lines":[{"ServiceCodeType":@,"Quantity":@,)"
         LR"("ExpectedCharge":@},@],"SeparateItems":@})";
-    Estimate estimate;
-    const auto id = Map(std::regex_replace(document, std::wregex(L"@"), json), estimate);
-    CHECK(id == (estimate.EstimateId.empty() ? L"no estimate" : estimate.EstimateId));
-    REQUIRE(estimate.Lines.size() == 2);
-    const ServiceLine& line = estimate.Lines[0];
-    std::wostringstream told;
-    told << estimate.EstimateId << L'/' << estimate.RevisionNumber << L'/' << estimate.CreatedOn
-         << L'/' << Told(estimate.NotYetScheduled) << L'/' << estimate.Patient.ContactPreference
-         << L'/' << estimate.Provider.State << L'/' << line.ServiceCodeType << L'/'
-         << line.Quantity << L'/' << Told(line.ExpectedCharge) << L'/'
-         << estimate.Lines[1].ServiceCodeType << L'/' << estimate.Lines[1].Quantity << L'/'
-         << estimate.SeparateItems.size();
-    return told.str();
+    Map(std::regex_replace(document, std::wregex(L"@"), json));
+    std::wstring told;
+    ForEachValue(mapped, [&told](Cell path, const auto& value) {
+        if (value == std::remove_cvref_t<decltype(value)>()) return;
+        told += (told.empty() ? L"" : L"; ") + path + L": " + Told(value);
+    });
+    return told;
+}
+
+bool IsOneFolder(Cell one, Cell two) {
+    return DeriveLegacyKey(L"ann", one) == DeriveLegacyKey(L"ann", two);
 }
 
 }  // namespace
 
-TEST_CASE("Hashes, keys, times, numbers and documents are read as the older edition had them") {
-    using Text = const std::wstring&;
-    CheckRules(
-        L"legacy.txt",
-        {{L"Sha256", [](Text text) { return Hex(Sha256(Bytes(text.begin(), text.end()))); }},
-         {L"key", [](Text user, Text path) { return Hex(DeriveLegacyKey(user, path)); }},
-         {L"one folder",
-          [](Text one, Text two) {
-              return DeriveLegacyKey(L"ann", one) == DeriveLegacyKey(L"ann", two);
-          }},
-         {L"time", ParseLegacyTime},
-         {L"value", ValueEverywhere},
-         {L"document", [](Text json) {
-              Estimate estimate;
-              return Map(json, estimate);
-          }}});
-    Estimate untouched;
-    CHECK(Map(L"[]", untouched) == L"no estimate");
-    CHECK(untouched == Estimate());
+TEST_CASE("Keys, times, values and documents are read as the older edition had them") {
+    CheckRules(L"legacy.txt",
+               {{L"key", [](Cell user, Cell path) { return Hex(DeriveLegacyKey(user, path)); }},
+                {L"one folder", IsOneFolder},
+                {L"time", ParseLegacyTime},
+                {L"value", ValueEverywhere},
+                {L"document", Map}});
 }
 
 TEST_CASE("A key file counts when it holds exactly 32 bytes") {
-    const TemporaryStore store;
-    const SecretBytes derived = DeriveLegacyKey(_wgetenv(L"USERNAME"), store.BaseFolder);
-    CHECK(GetLegacyKey(store) == derived);
-    for (const std::size_t length : {31U, 32U, 33U}) {
+    const OldFolder folder;
+    const SecretBytes derived = DeriveLegacyKey(_wgetenv(L"USERNAME"), folder.store.BaseFolder);
+    for (const std::size_t length : {0U, 31U, 32U, 33U}) {
         const SecretBytes file(length, 0x5A);
-        REQUIRE(WriteFileBytes(store.BaseFolder + L"\\data.key", file));
-        CHECK(GetLegacyKey(store) == (length == 32 ? file : derived));
+        folder.UseKey(file);
+        CHECK(GetLegacyKey(folder.store) == (length == 32 ? file : derived));
     }
 }
 

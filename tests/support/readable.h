@@ -45,9 +45,7 @@ namespace tessaline {
 inline void CheckLines(const std::vector<std::wstring>& lines, const std::wstring& text) {
     std::wistringstream wanted(text);
     std::wstring line;
-    for (const std::wstring& found : lines) {
-        CHECK(found == (std::getline(wanted, line) ? line : L"no more"));
-    }
+    for (const auto& found : lines) CHECK((std::getline(wanted, line) ? line : L"none") == found);
     CHECK_FALSE(std::getline(wanted, line));
 }
 

@@ -18,6 +18,7 @@
 
 namespace tessaline {
 
+using Cell = const std::wstring&;
 using RowCells = std::vector<std::wstring>;  ///< the rule's name is the first
 
 inline std::wstring CellText(std::wstring cell) {

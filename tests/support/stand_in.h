@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <commdlg.h>
+#include <wincrypt.h>
 
 #include <type_traits>
 #include <utility>
@@ -12,6 +13,8 @@
 extern "C" {
 extern decltype(&AbortDoc) __imp_AbortDoc;
 extern decltype(&BeginPaint) __imp_BeginPaint;
+extern decltype(&CryptProtectData) __imp_CryptProtectData;
+extern decltype(&CryptUnprotectData) __imp_CryptUnprotectData;
 extern decltype(&DeleteDC) __imp_DeleteDC;
 extern decltype(&DrawTextW) __imp_DrawTextW;
 extern decltype(&EndDoc) __imp_EndDoc;
