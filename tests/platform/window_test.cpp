@@ -11,13 +11,13 @@ namespace {
 RECT workArea;
 using WindowOwner = Owner<HWND, DestroyWindow>;
 
-RECT RectOf(const std::wstring& text) {
+RECT RectOf(Cell text) {
     RECT rect{};
     std::wistringstream(text) >> rect.left >> rect.top >> rect.right >> rect.bottom;
     return rect;
 }
 
-WindowOwner MakeWindow(const std::wstring& place) {
+WindowOwner MakeWindow(Cell place) {
     const RECT rect = RectOf(place);
     return WindowOwner(CreateWindowExW(0, L"STATIC", L"", WS_POPUP, rect.left, rect.top,
                                        rect.right, rect.bottom, nullptr, nullptr, nullptr,
@@ -31,8 +31,7 @@ TEST_CASE("Windows stand in the middle of others, but no title bar leaves the wo
         info->rcWork = workArea;
         return TRUE;
     });
-    using Text = const std::wstring&;
-    const auto place = [](Text area, Text around, Text own, Text state) {
+    const auto place = [](Cell area, Cell around, Cell own, Cell state) {
         workArea = RectOf(area);
         const WindowOwner reference = MakeWindow(around);
         const WindowOwner window = MakeWindow(own);
