@@ -5,7 +5,6 @@
 
 #include <commctrl.h>
 #include <psapi.h>
-#include <wincrypt.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -30,19 +29,14 @@
 #include "ui/form/form_rows.h"
 #include "ui/frame/main_window.h"
 
-extern "C" {
-extern decltype(&CryptProtectData) __imp_CryptProtectData;
-extern decltype(&CryptUnprotectData) __imp_CryptUnprotectData;
-}
-
 namespace tessaline {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using Milliseconds = std::chrono::duration<double, std::milli>;
-using Runner = std::function<double()>;
+using Runner = std::function<double()>;  // gives milliseconds
 using Results = std::vector<double>;
 using Rows = std::vector<std::vector<std::wstring>>;
+
+LocalStore store;
 
 // A floor that does not do its work measures nothing.
 void Demand(bool done) {
@@ -54,13 +48,16 @@ double Quantile(Results values, int percent) {
     return values[values.size() * static_cast<std::size_t>(percent) / 100];
 }
 
-// The milliseconds that some work takes.
-template <typename Work>
-Runner Timed(Work work) {
-    return [=] {
-        const auto start = Clock::now();
+double Now() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double, std::milli>(now).count();
+}
+
+Runner Timed(const std::function<void()>& work) {
+    return [work] {
+        const double start = Now();
         work();
-        return Milliseconds(Clock::now() - start).count();
+        return Now() - start;
     };
 }
 
@@ -90,19 +87,13 @@ void Compare(const char* name, double aim, int rounds, const Runner& ours, const
     Report(name, "ms", aim, results[0], results[1]);
 }
 
-// Files. The platform's own protection would hide what is ours, so a copy of the bytes stands in
-// for it on both sides.
-
-BOOL Copy(const DATA_BLOB* from, DATA_BLOB* to) {
+// Takes the place of the platform's own protection, which would hide what is ours.
+template <typename Description>
+BOOL WINAPI Copy(DATA_BLOB* from, Description, DATA_BLOB*, PVOID, CRYPTPROTECT_PROMPTSTRUCT*,
+                 DWORD, DATA_BLOB* to) {
     *to = {from->cbData, static_cast<BYTE*>(LocalAlloc(LMEM_FIXED, from->cbData))};
     std::memcpy(to->pbData, from->pbData, from->cbData);
     return TRUE;
-}
-
-template <typename Description>
-BOOL WINAPI CopyInstead(DATA_BLOB* from, Description, DATA_BLOB*, PVOID,
-                        CRYPTPROTECT_PROMPTSTRUCT*, DWORD, DATA_BLOB* to) {
-    return Copy(from, to);
 }
 
 Estimate SampleWith(std::size_t lines, int number = 0) {
@@ -114,19 +105,17 @@ Estimate SampleWith(std::size_t lines, int number = 0) {
     return estimate;
 }
 
-LocalStore FullStore(const std::wstring& folder) {
+void FillStore() {
     const StandIn quick(__imp_FlushFileBuffers, [](HANDLE) { return TRUE; });
-    LocalStore store = LocalStoreBelow(folder);
     std::wstring path, error;
     for (int number = 0; number < 10'000; ++number) {
         Estimate estimate = SampleWith(6, number);
         Demand(SaveEstimate(store, estimate, path, error));
     }
-    return store;
 }
 
 // Lists, opens, reads, copies.
-void BareCatalogue(const LocalStore& store) {
+void BareCatalogue() {
     static BYTE room[100'000];
     WIN32_FIND_DATAW found{};
     const FindOwner search(FindFirstFileW((store.EstimatesFolder + L"\\*.gfe").c_str(), &found));
@@ -136,25 +125,24 @@ void BareCatalogue(const LocalStore& store) {
                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         DATA_BLOB read{0, room}, copy{};
         Demand(ReadFile(file.Get(), room, sizeof(room), &read.cbData, nullptr));
-        Demand(Copy(&read, &copy));
+        Copy(&read, nullptr, nullptr, nullptr, nullptr, 0, &copy);
         LocalFree(copy.pbData);
     } while (FindNextFileW(search.Get(), &found));
 }
 
-void MeasureCatalogue(const std::wstring& folder) {
-    const LocalStore store = FullStore(folder);
-    const Runner load = Timed([&] { Demand(LoadAllEstimates(store).size() == 10'000); });
-    Compare("catalogue of 10,000", 1.30, 15, load, Timed([&] { BareCatalogue(store); }));
+void MeasureCatalogue() {
+    FillStore();
+    const Runner load = Timed([] { Demand(LoadAllEstimates(store).size() == 10'000); });
+    Compare("catalogue of 10,000", 1.30, 15, load, Timed(BareCatalogue));
     Compare("patients of 10,000", 1.10, 11,
-            Timed([&] { Demand(BuildPatientList(store).size() == 100); }), load);
+            Timed([] { Demand(BuildPatientList(store).size() == 100); }), load);
     Compare("providers of 10,000", 1.10, 11,
-            Timed([&] { Demand(BuildProviderList(store).size() == 100); }), load);
+            Timed([] { Demand(BuildProviderList(store).size() == 100); }), load);
     Compare("a revision among 10,000", 1.05, 11,
-            Timed([&] { Demand(MakeRevision(store, SampleWith(6)).RevisionNumber > 0); }), load);
+            Timed([] { Demand(MakeRevision(store, SampleWith(6)).RevisionNumber > 0); }), load);
 }
 
-void MeasureFile(const std::wstring& folder) {
-    const LocalStore store = LocalStoreBelow(folder);
+void MeasureFile() {
     Estimate estimate = SampleWith(6);
     std::wstring path, error;
     const auto save = [&] { Demand(SaveEstimate(store, estimate, path, error)); };
@@ -187,8 +175,6 @@ void MeasureFile(const std::wstring& folder) {
             Timed([&] { Demand(!decrypt().empty()); }));
 }
 
-// Windows.
-
 void BareFill(HWND list, const Rows& rows) {
     SetWindowRedraw(list, FALSE);
     ListView_DeleteAllItems(list);
@@ -209,23 +195,21 @@ void BareFill(HWND list, const Rows& rows) {
 
 // Milliseconds until the lookup over a catalogue is painted, which is closed then.
 double LookupTime(std::vector<SavedEstimateEntry>& estimates) {
-    static LookupState* shown;
-    static Clock::time_point painted;
+    static double painted;
     LookupState state;
-    shown = &state;
     state.owner = App()->mainWindow;
     state.Mode = LookupMode::kEstimates;
     state.estimates.swap(estimates);
-    const auto start = Clock::now();
+    const double start = Now();
     // Timers come when all is painted. This one is over by then, so nothing waits for it.
     const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) {
-        painted = Clock::now();
-        PostMessageW(shown->window, WM_CLOSE, 0, 0);
+        painted = Now();
+        PostMessageW(GetLastActivePopup(App()->mainWindow), WM_CLOSE, 0, 0);
     });
     Demand(ShowLookup(state, L"Open") == kLookupCancelled);
     KillTimer(nullptr, timer);
     state.estimates.swap(estimates);
-    return Milliseconds(painted - start).count();
+    return painted - start;
 }
 
 double BareLookupTime(const Rows& rows) {
@@ -233,12 +217,12 @@ double BareLookupTime(const Rows& rows) {
                                         525, App()->mainWindow, nullptr, nullptr, nullptr);
     const HWND list = MakeListView(window, 2, {20, 76, 760, 340}, EstimateColumns());
     UpdateWindow(window);
-    const auto start = Clock::now();
+    const double start = Now();
     BareFill(list, rows);
     UpdateWindow(list);
-    const auto painted = Clock::now();
+    const double time = Now() - start;
     DestroyWindow(window);
-    return Milliseconds(painted - start).count();
+    return time;
 }
 
 double Megabytes(HANDLE process) {
@@ -247,35 +231,30 @@ double Megabytes(HANDLE process) {
     return static_cast<double>(counters.WorkingSetSize) / (1024 * 1024);
 }
 
-void MeasureLookup(const std::wstring& folder) {
-    const LocalStore store = FullStore(folder);
+void MeasureLookup() {
+    FillStore();
     const Results idle{Megabytes(GetCurrentProcess())};
     auto estimates = LoadAllEstimates(store);
-    Demand(LookupTime(estimates) > 0);
-    const Results full{Megabytes(GetCurrentProcess())};
+    LookupTime(estimates);
+    Report("working set, 10,000 looked through", "MB", 0, {Megabytes(GetCurrentProcess())}, idle);
     std::exchange(estimates, {});
-    const Results closed{Megabytes(GetCurrentProcess())};
-    Report("working set, 10,000 looked through", "MB", 0, full, idle);
-    Report("working set, the lookup closed", "MB", 0, closed, idle);
+    Report("working set, the lookup closed", "MB", 0, {Megabytes(GetCurrentProcess())}, idle);
     estimates = LoadAllEstimates(store);
     Rows rows;
-    for (const LookupRow& row : MakeLookupRows(estimates)) {
-        rows.emplace_back(row.cells.begin(), row.cells.end());
-    }
+    for (const LookupRow& row : MakeLookupRows(estimates)) rows.push_back(row.cells);
     Compare(
         "lookup of 10,000, to the painted list", 1.15, 31, [&] { return LookupTime(estimates); },
         [&] { return BareLookupTime(rows); });
 }
 
-void MeasureForm(const std::wstring&) {
+void MeasureForm() {
     const AppState& app = *App();
     const Estimate estimate = SampleWith(100);
     BindToForm(estimate);
-    std::vector<std::pair<HWND, std::wstring>> texts{
-        {app.totalAmount, WindowText(app.totalAmount)}};
+    std::map<HWND, std::wstring> texts{{app.totalAmount, WindowText(app.totalAmount)}};
     ForEachFieldRow([&](const FieldRow& row) {
         const HWND control = ControlById(row.id);
-        if (row.entries.empty() && row.text) texts.emplace_back(control, WindowText(control));
+        if (row.entries.empty() && row.text) texts[control] = WindowText(control);
     });
     const Rows lines(100, {L"Surgeon's fee, arthroscopy", L"400 Capitol Avenue", L"S83.242A",
                            L"CPT 29882", L"1", L"$4155.00", L"$4155.00"});
@@ -292,17 +271,18 @@ void MeasureForm(const std::wstring&) {
 
 // Runs a program until it has painted its window and gives the milliseconds; `memory` gets its
 // working set then. It answers when it asks for messages, which it does after painting.
-double StartTime(std::wstring program, const wchar_t* title, Results& memory) {
+double StartTime(const std::wstring& program, const wchar_t* title, Results& memory) {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
-    const auto start = Clock::now();
-    Demand(CreateProcessW(nullptr, program.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+    const double start = Now();
+    std::wstring path = L"build\\release\\" + program;
+    Demand(CreateProcessW(nullptr, path.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                           &startup, &process));
     HWND window = nullptr;
     for (; !IsWindowVisible(window); window = FindWindowW(nullptr, title)) Sleep(1);
     SendMessageW(window, WM_NULL, 0, 0);
-    const double time = Milliseconds(Clock::now() - start).count();
+    const double time = Now() - start;
     const FileOwner running(process.hProcess), thread(process.hThread);
     memory.push_back(Megabytes(running.Get()));
     TerminateProcess(running.Get(), 0);
@@ -310,15 +290,14 @@ double StartTime(std::wstring program, const wchar_t* title, Results& memory) {
     return time;
 }
 
-void MeasureStart(const std::wstring&) {
+void MeasureStart() {
     DestroyWindow(App()->mainWindow);
     Results ours, floor;
-    const auto run = [](const wchar_t* program, const wchar_t* title, Results& memory) {
-        return [=, &memory] { return StartTime(program, title, memory); };
+    const auto start = [&] {
+        return StartTime(L"Tessaline.exe", L"Tessaline | No Surprises Act", ours);
     };
-    Compare("start to a painted form", 1.10, 61,
-            run(L"build\\release\\Tessaline.exe", L"Tessaline | No Surprises Act", ours),
-            run(L"build\\release\\bare_windows.exe", L"Bare", floor));
+    const auto startBare = [&] { return StartTime(L"bare_windows.exe", L"Bare", floor); };
+    Compare("start to a painted form", 1.10, 61, start, startBare);
     Report("working set of the idle program", "MB", 0, ours, floor);
 }
 
@@ -327,15 +306,14 @@ void MeasureStart(const std::wstring&) {
 
 int wmain(int count, wchar_t** arguments) {
     using namespace tessaline;
-    const std::map<std::wstring, void (*)(const std::wstring& folder)> groups = {
-        {L"catalogue", MeasureCatalogue},
-        {L"file", MeasureFile},
-        {L"lookup", MeasureLookup},
-        {L"form", MeasureForm},
-        {L"start", MeasureStart}};
+    const std::map<std::wstring, void (*)()> groups = {{L"catalogue", MeasureCatalogue},
+                                                       {L"file", MeasureFile},
+                                                       {L"lookup", MeasureLookup},
+                                                       {L"form", MeasureForm},
+                                                       {L"start", MeasureStart}};
     Demand(count == 3 && groups.contains(arguments[1]));
-    Write(__imp_CryptProtectData, CopyInstead<LPCWSTR>);
-    Write(__imp_CryptUnprotectData, CopyInstead<LPWSTR*>);
+    Write(__imp_CryptProtectData, Copy<LPCWSTR>);
+    Write(__imp_CryptUnprotectData, Copy<LPWSTR*>);
     InitCommonControls();
     SetScreenDpi(96);
     CreateTheme();
@@ -343,6 +321,7 @@ int wmain(int count, wchar_t** arguments) {
     PublishAppState(&app);
     ShowWindow(CreateMainWindow(), SW_SHOW);
     UpdateWindow(app.mainWindow);
-    groups.at(arguments[1])(arguments[2]);
+    store = LocalStoreBelow(arguments[2]);
+    groups.at(arguments[1])();
     return 0;
 }
