@@ -1,39 +1,81 @@
 #!/usr/bin/env bash
-# Fuzzes the readers of files and of typed texts, each for SECONDS (60 by default):
-# ./fuzz.sh [SECONDS]. With --runs N each reader gets N inputs from a fixed seed instead. An input that
-# makes a reader fail is kept as build/fuzz/crash-...; make a test of it.
+# Fuzzes the readers of files and of typed texts, starting from the inputs in tests/fuzz/corpus.
+#   ./fuzz.sh [SECONDS]   each reader for so long (60 by default), also from what earlier runs found
+#   ./fuzz.sh --runs N    each reader with N inputs, from a fixed seed and the corpus alone
+#   ./fuzz.sh --keep      makes the corpus anew: the fewest inputs that do all that is found by now
+#   ./fuzz.sh --coverage  how many lines of the readers the corpus reaches, and why not the others
+# An input that makes a reader fail is kept as build/fuzz/crash-...; make a test of it. To add an input
+# by hand, put it into build/fuzz/found/native (or legacy, or rules) and run --keep.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
-need_packages clang cmake ninja-build libclang-rt-14-dev python3-cryptography
 
-limit=(-max_total_time="${1:-60}")
-[ "${1:-}" = --runs ] && limit=(-runs="$2" -seed=1)
+targets='native legacy rules'
+corpus=tests/fuzz/corpus
+fuzz=build/fuzz
 
-cmake -S tests/fuzz -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ >/dev/null
-cmake --build build/fuzz
+build() {  # folder, compiler flags
+  need_packages clang cmake ninja-build libclang-rt-14-dev
+  cmake -S tests/fuzz -B "$1" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_FLAGS="${2:-}" >/dev/null
+  cmake --build "$1"
+}
 
-# Seeds are the tests' own data; what is found while running is kept apart from them.
-seeds=build/fuzz/seeds
-mkdir -p $seeds/{native,legacy,rules}
-cp tests/data/payload-*.bin $seeds/native
-tests/data/make.py --json >$seeds/legacy/estimate.json
-n=0
-while IFS= read -r text; do printf '%s' "$text" >"$seeds/rules/$((n += 1))"; done <<'TEXTS'
- 02/29/2024 9:00
-2024-02-29T23:59:59.123Z
-$1,234.50e-3
-ann.lee@example.com
-123-456-7890
-62701-1234
-CON: a/b\c|"?"
-TEXTS
+unpack() {
+  for target in $targets; do
+    rm -rf $fuzz/{corpus,merged}/$target
+    mkdir -p $fuzz/{corpus,merged,new,found}/$target
+    tar -xzf $corpus/$target.tar.gz -C $fuzz/corpus/$target
+    # Here, and not after a run, so that one that was ended early counts too.
+    find $fuzz/new/$target -type f -exec mv -t $fuzz/found/$target {} +
+  done
+  # So that a new version of the format is fuzzed from its first day.
+  cp tests/data/payload-*.bin $fuzz/corpus/native
+}
 
-for target in native legacy rules; do
-  mkdir -p build/fuzz/found/$target
-  echo "== $target"
-  build/fuzz/fuzz_$target "${limit[@]}" -print_final_stats=1 -artifact_prefix=build/fuzz/crash-$target- \
-    build/fuzz/found/$target $seeds/$target 2>&1 | grep -E 'stat::(number|average|peak)|ERROR|SUMMARY|runtime error|artifact' &&
-    [ "${PIPESTATUS[0]}" -eq 0 ] || { echo "$target failed"; exit 1; }
-done
-echo "Every reader survived."
+run() {  # the folders to start from, the options
+  for target in $targets; do
+    echo "== $target"
+    local log=$fuzz/$target.log outcome=0
+    $fuzz/fuzz_$target "${@:2}" -timeout=20 -print_final_stats=1 \
+      -artifact_prefix=$fuzz/crash-$target- $fuzz/new/$target $(printf "$fuzz/%s/$target " $1) \
+      >$log 2>&1 || outcome=$?
+    grep -E 'DONE|stat::(number|average|peak)|ERROR|SUMMARY|runtime error|artifact' $log || true
+    [ $outcome -eq 0 ] || { echo "$target failed: see $log"; exit 1; }
+  done
+  echo "Every reader survived."
+}
+
+keep() {
+  for target in $targets; do
+    $fuzz/fuzz_$target -set_cover_merge=1 $fuzz/{merged,corpus,found}/$target 2>&1 | tail -n 1
+    # The same inputs give the same archive.
+    tar --sort=name --mtime=@0 --owner=0 --group=0 --numeric-owner --mode=644 --format=ustar -c \
+      -C $fuzz/merged/$target . | gzip -n9 >$corpus/$target.tar.gz
+    rm -r $fuzz/found/$target
+  done
+  du -bc $corpus/*
+}
+
+coverage() {
+  local folder=build/fuzz-coverage programs=()
+  build $folder '-fprofile-instr-generate -fcoverage-mapping'
+  need_packages llvm-14 python3
+  for target in $targets; do
+    LLVM_PROFILE_FILE=$folder/$target.profraw $folder/fuzz_$target -runs=0 $fuzz/corpus/$target \
+      2>$folder/$target.log
+    programs+=(-object $folder/fuzz_$target)
+  done
+  llvm-profdata-14 merge -o $folder/all.profdata $folder/*.profraw
+  programs+=(-instr-profile=$folder/all.profdata -ignore-filename-regex=tests/)
+  # It warns that a function of the targets has the same name in each.
+  llvm-cov-14 report -show-region-summary=0 -show-branch-summary=0 "${programs[@]}" 2>/dev/null
+  llvm-cov-14 export -format=lcov "${programs[@]}" 2>/dev/null | tests/fuzz/unreached.py
+}
+
+case ${1:-60} in
+  [0-9]*) build $fuzz; unpack; run 'corpus found' -max_total_time="${1:-60}" ;;
+  --runs) build $fuzz; unpack; run corpus -runs="$2" -seed=1 ;;
+  --keep) build $fuzz; unpack; keep ;;
+  --coverage) unpack; coverage ;;
+  *) sed -n '2,8s/^# //p' "$0"; exit 2 ;;
+esac

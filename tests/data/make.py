@@ -3,7 +3,6 @@
 
     make.py           writes them
     make.py --check   says which differ from what it would write, and fails
-    make.py --json    prints the document in legacy-estimate.gfe
 
 Payloads and the older edition's estimate come from rules/record.txt, its other files from the
 texts below. Files that were released are never changed: an old version's payload stays as it
@@ -130,7 +129,6 @@ def older_file(document, nonce=b"nonce-nonce."):
     return b"GFE2" + nonce + sealed[-16:] + sealed[:-16]
 
 
-DOCUMENT = document(record_of("full", "legacy"))
 HUNDRED_LINES = json.dumps({
     "EstimateId": "GFE-20240229-235959",
     "Lines": 100 * [{"ServiceItem": "Surgeon's fee, arthroscopy", "Quantity": 2,
@@ -143,7 +141,8 @@ FILES = {
     "payload-v1-blank.bin": payload(1, VERSION_1, {}),
     "payload-v1-full.bin": payload(1, VERSION_1, record_of("full", "native")),
     "legacy-data.key": KEY,
-    "legacy-estimate.gfe": older_file(DOCUMENT, bytes.fromhex("7b8b965ad4bca0e41ab51de7")),
+    "legacy-estimate.gfe": older_file(document(record_of("full", "legacy")),
+                                       bytes.fromhex("7b8b965ad4bca0e41ab51de7")),
     "legacy-hundred-lines.gfe": older_file(HUNDRED_LINES.encode()),
     "legacy-unfinished.gfe": older_file(b'{"EstimateId":"a"'),
     "legacy-unnamed.gfe": older_file(b'{"estimateId":"a"}'),
@@ -152,9 +151,6 @@ FILES = {
 
 
 def main():
-    if sys.argv[1:] == ["--json"]:
-        sys.stdout.buffer.write(DOCUMENT)
-        return 0
     if sys.argv[1:] != ["--check"]:
         for name, content in FILES.items():
             (FOLDER / name).write_bytes(content)

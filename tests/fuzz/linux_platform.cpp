@@ -10,7 +10,8 @@
 namespace tessaline {
 namespace {
 
-using Conversion = std::wstring_convert<std::codecvt_utf8_utf16<wchar_t>>;
+// Made once: making one takes longer than most texts.
+std::wstring_convert<std::codecvt_utf8_utf16<wchar_t>> conversion("?", L"?");
 
 }  // namespace
 
@@ -21,13 +22,13 @@ void WipeMemory(void* memory, std::size_t size) noexcept {
 // Windows replaces what is ill-formed piece by piece. Here a text with an unpaired surrogate is
 // one mark, and bytes that are no UTF-8 are widened, so that mutations still reach the readers.
 void AppendUtf8(SecretBytes& bytes, std::wstring_view text) {
-    const std::string utf8 = Conversion("?").to_bytes(text.data(), text.data() + text.size());
+    const std::string utf8 = conversion.to_bytes(text.data(), text.data() + text.size());
     bytes.insert(bytes.end(), utf8.begin(), utf8.end());
 }
 
 std::wstring FromUtf8(ByteView utf8) {
     const auto* bytes = reinterpret_cast<const char*>(utf8.data());
-    const std::wstring text = Conversion("?", L"?").from_bytes(bytes, bytes + utf8.size());
+    const std::wstring text = conversion.from_bytes(bytes, bytes + utf8.size());
     return text == L"?" ? std::wstring(utf8.begin(), utf8.end()) : text;
 }
 

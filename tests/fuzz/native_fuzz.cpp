@@ -1,10 +1,28 @@
 // Any bytes: what the native reader accepts, the writer writes back so that it reads the same
-// again.
+// again, and the texts of lists, messages and pages are made of it, whatever it holds.
 #include <cstdlib>
 
+#include "model/dates.h"
+#include "model/money.h"
+#include "model/text.h"
+#include "model/validation.h"
 #include "store/native_format.h"
 
 using namespace tessaline;
+
+namespace {
+
+std::wstring TextsOf(const Estimate& estimate) {
+    const PatientInfo& patient = estimate.Patient;
+    std::wstring texts = JoinName(patient) + FormatMoney(TotalExpectedCharge(estimate));
+    for (const ServiceLine& line : estimate.Lines) texts += CodeText(line);
+    return texts + FormatTimestamp(estimate.LastModifiedOn, false) +
+           JoinAddress(patient.Street, patient.Apartment, patient.City, patient.State,
+                       patient.Zip) +
+           ValidateEstimate(estimate, std::chrono::year{2026} / 3 / 7);
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Estimate estimate;
@@ -13,6 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (error.empty()) std::abort();
         return 0;
     }
+    if (TextsOf(estimate).find(L'$') == std::wstring::npos) std::abort();
     const SecretBytes written = WriteNativeEstimate(estimate);
     Estimate again;
     if (!ReadNativeEstimate(written, again, error)) std::abort();

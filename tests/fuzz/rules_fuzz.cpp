@@ -35,6 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const double stamp = std::abs(amount) < 1e18 ? amount : 0;
     Require(FormatTimestamp(static_cast<std::int64_t>(stamp), true).size() < 64);
     Require(CheckZip(trimmed) == CheckZip(text) && CheckEmail(trimmed) == CheckEmail(text));
+    Require(CheckAccountLast4(trimmed) == CheckAccountLast4(text));
     constexpr std::chrono::year_month_day today = std::chrono::year{2026} / 3 / 7;
     Require(CheckDateOfBirth(text, true, today) == CheckDateOfBirth(trimmed, true, today));
     Require(CheckNpi(text).empty() ==
