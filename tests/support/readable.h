@@ -5,6 +5,7 @@
 #include <doctest/doctest.h>
 #include <test_data_folder.h>
 
+#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -39,6 +40,12 @@ namespace tessaline {
     Bytes bytes = ReadFileBytes(std::wstring(kTestDataFolder) + L"/" + name);
     REQUIRE_FALSE(bytes.empty());
     return bytes;
+}
+
+/// A number from the environment.
+[[nodiscard]] inline unsigned Setting(const wchar_t* name, unsigned otherwise) {
+    const wchar_t* text = _wgetenv(name);
+    return text == nullptr ? otherwise : static_cast<unsigned>(std::wcstoul(text, nullptr, 10));
 }
 
 /// Checks lines against a text of such lines.

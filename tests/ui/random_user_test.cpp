@@ -31,11 +31,6 @@ using namespace tessaline;
 
 namespace {
 
-unsigned Setting(const wchar_t* name, unsigned otherwise) {
-    const wchar_t* text = _wgetenv(name);
-    return text == nullptr ? otherwise : static_cast<unsigned>(std::wcstoul(text, nullptr, 10));
-}
-
 int drawing = 0;  // objects and device contexts that are not given back yet
 int writes = 0;
 
