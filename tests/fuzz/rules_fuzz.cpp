@@ -12,33 +12,28 @@
 
 using namespace tessaline;
 
-namespace {
-
-void Require(bool holds) {
-    if (!holds) std::abort();
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto require = [](bool holds) {
+        if (!holds) std::abort();
+    };
     const std::wstring text = FromUtf8({data, size});
     const std::wstring trimmed = Trim(text);
-    Require(Trim(trimmed) == trimmed && trimmed.empty() == IsBlank(text));
-    Require(ToUpper(text).size() == text.size() && ToLower(text).size() == text.size());
-    Require(ContainsNoCase(text, trimmed));
-    Require(CleanFileName(text).find_first_of(L"<>:\"/\\|?*") == std::wstring::npos);
-    Require(ParseQuantityText(text) >= 1);
+    require(Trim(trimmed) == trimmed && trimmed.empty() == IsBlank(text));
+    require(ToUpper(text).size() == text.size() && ToLower(text).size() == text.size());
+    require(ContainsNoCase(text, trimmed));
+    require(CleanFileName(text).find_first_of(L"<>:\"/\\|?*") == std::wstring::npos);
+    require(ParseQuantityText(text) >= 1);
     const double amount = ParseMoneyText(text);
-    Require(!std::isnan(amount) && FormatMoney(amount).starts_with(L"$"));
-    if (const auto date = ParseDate(text)) Require(date->ok());
-    Require(ParseLegacyTime(text) >= 0);
+    require(!std::isnan(amount) && FormatMoney(amount).starts_with(L"$"));
+    if (const auto date = ParseDate(text)) require(date->ok());
+    require(ParseLegacyTime(text) >= 0);
     const double stamp = std::abs(amount) < 1e18 ? amount : 0;
-    Require(FormatTimestamp(static_cast<std::int64_t>(stamp), true).size() < 64);
-    Require(CheckZip(trimmed) == CheckZip(text) && CheckEmail(trimmed) == CheckEmail(text));
-    Require(CheckAccountLast4(trimmed) == CheckAccountLast4(text));
+    require(FormatTimestamp(static_cast<std::int64_t>(stamp), true).size() < 64);
+    require(CheckZip(trimmed) == CheckZip(text) && CheckEmail(trimmed) == CheckEmail(text));
+    require(CheckAccountLast4(trimmed) == CheckAccountLast4(text));
     constexpr std::chrono::year_month_day today = std::chrono::year{2026} / 3 / 7;
-    Require(CheckDateOfBirth(text, true, today) == CheckDateOfBirth(trimmed, true, today));
-    Require(CheckNpi(text).empty() ==
+    require(CheckDateOfBirth(text, true, today) == CheckDateOfBirth(trimmed, true, today));
+    require(CheckNpi(text).empty() ==
             (DigitsOnly(text).size() % 10 == 0 && DigitsOnly(text).size() <= 10));
     return 0;
 }
