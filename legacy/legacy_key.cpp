@@ -26,8 +26,7 @@ bool IsSeparator(wchar_t c) {
 // The end of "C:" or of "\\server" at the front of a path.
 std::size_t RootNameEnd(std::wstring_view path) {
     if (path.size() >= 2 && path[1] == L':') return 2;
-    const bool isServer =
-        path.size() > 2 && IsSeparator(path[0]) && IsSeparator(path[1]) && !IsSeparator(path[2]);
+    const bool isServer = path.size() > 2 && IsSeparator(path[0]) && IsSeparator(path[1]);
     return isServer ? std::min(path.find_first_of(kSeparators, 2), path.size()) : 0;
 }
 
@@ -79,13 +78,9 @@ std::wstring CurrentUserName() {
 }  // namespace
 
 SecretBytes GetLegacyKey(const LocalStore& store) {
-    Bytes file = ReadFileBytes(store.BaseFolder + L"\\data.key");
-    if (file.size() != kLegacyKeySize) {
-        return DeriveLegacyKey(CurrentUserName(), store.BaseFolder);
-    }
-    SecretBytes key(file.begin(), file.end());
-    WipeMemory(file.data(), file.size());
-    return key;
+    SecretBytes key = ReadSecretFile(store.BaseFolder + L"\\data.key");
+    if (key.size() == kLegacyKeySize) return key;
+    return DeriveLegacyKey(CurrentUserName(), store.BaseFolder);
 }
 
 SecretBytes DeriveLegacyKey(const std::wstring& userName, const std::wstring& baseFolder) {

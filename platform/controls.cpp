@@ -34,9 +34,10 @@ HWND MakeControl(HWND parent, int id, const Box& box, const ControlParts& parts)
 using EntryBuffer = std::array<wchar_t, kEntryLength>;
 
 std::wstring_view EntryText(HWND choice, WPARAM index, EntryBuffer& buffer) noexcept {
-    // CB_GETLBTEXT writes as much as the entry holds: a longer one must not reach the buffer.
+    // CB_GETLBTEXT writes as much as the entry holds: a longer one must not reach the buffer. For
+    // no entry Windows answers -1, which is longer than any.
     const LRESULT length = SendMessageW(choice, CB_GETLBTEXTLEN, index, 0);
-    if (length < 0 || static_cast<std::size_t>(length) >= kEntryLength) return {};
+    if (static_cast<std::size_t>(length) >= kEntryLength) return {};
     SendMessageW(choice, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(buffer.data()));
     return buffer.data();
 }
@@ -141,7 +142,6 @@ void SelectChoice(HWND choice, std::wstring_view text) noexcept {
 std::wstring ChoiceText(HWND choice) {
     const LRESULT index = SendMessageW(choice, CB_GETCURSEL, 0, 0);
     EntryBuffer buffer{};
-    if (index == CB_ERR) return {};
     return std::wstring(EntryText(choice, static_cast<WPARAM>(index), buffer));
 }
 

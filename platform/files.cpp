@@ -40,8 +40,9 @@ std::optional<LONGLONG> SizeOf(const FileOwner& file) {
     return size.QuadPart;
 }
 
-std::optional<Bytes> ReadStart(const FileOwner& file, LONGLONG size) {
-    Bytes bytes(static_cast<std::size_t>(size));
+template <typename Buffer>
+std::optional<Buffer> ReadStart(const FileOwner& file, LONGLONG size) {
+    Buffer bytes(static_cast<std::size_t>(size));
     DWORD read = 0;
     const DWORD wanted = static_cast<DWORD>(bytes.size());
     // A file that shrank since its size was taken gives fewer bytes; a read error gives none.
@@ -50,13 +51,22 @@ std::optional<Bytes> ReadStart(const FileOwner& file, LONGLONG size) {
     return bytes;
 }
 
-}  // namespace
-
-Bytes ReadFileBytes(const std::wstring& path) {
+template <typename Buffer>
+Buffer ReadWhole(const std::wstring& path) {
     const FileOwner file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
     const std::optional<LONGLONG> size = SizeOf(file);
     if (!size || *size > kLargestFile) return {};
-    return ReadStart(file, *size).value_or(Bytes());
+    return ReadStart<Buffer>(file, *size).value_or(Buffer());
+}
+
+}  // namespace
+
+Bytes ReadFileBytes(const std::wstring& path) {
+    return ReadWhole<Bytes>(path);
+}
+
+SecretBytes ReadSecretFile(const std::wstring& path) {
+    return ReadWhole<SecretBytes>(path);
 }
 
 std::optional<Bytes> ReadFileStart(const std::wstring& path, std::uint32_t most) {
@@ -66,13 +76,13 @@ std::optional<Bytes> ReadFileStart(const std::wstring& path, std::uint32_t most)
     if (!file && isMissing) return Bytes();
     const std::optional<LONGLONG> size = SizeOf(file);
     if (!size) return std::nullopt;
-    return ReadStart(file, std::min<LONGLONG>(*size, most));
+    return ReadStart<Bytes>(file, std::min<LONGLONG>(*size, most));
 }
 
 bool MoveFileAside(const std::wstring& path, const std::wstring& folder) {
     if (!EnsureFolder(folder)) return false;
     const std::wstring name = path.substr(path.find_last_of(L"\\/") + 1);
-    const std::size_t dot = std::min(name.rfind(L'.'), name.size());
+    const std::size_t dot = name.rfind(L'.');
     const std::wstring place = folder + L"\\";
     std::wstring free = name;
     for (int number = 2; !MoveFileW(path.c_str(), (place + free).c_str()); ++number) {
@@ -88,15 +98,11 @@ bool WriteFileBytes(const std::wstring& path, ByteView bytes) {
     EnsureFolder(ParentFolder(path));
     const FileOwner file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
     if (!file) return false;
-    while (!bytes.empty()) {
-        const DWORD chunk =
-            static_cast<DWORD>(std::min<std::size_t>(bytes.size(), std::size_t{1} << 30U));
-        DWORD written = 0;
-        if (!WriteFile(file.Get(), bytes.data(), chunk, &written, nullptr) || written == 0) {
-            return false;
-        }
-        bytes = bytes.subspan(written);
-    }
+    DWORD written = 0;
+    const DWORD size = static_cast<DWORD>(bytes.size());
+    if (!WriteFile(file.Get(), bytes.data(), size, &written, nullptr)) return false;
+    // Where the disk fills up, some systems write a part and call that a success.
+    if (written != bytes.size()) return false;
     // "Saved" is said only when a pulled plug can no longer take it back.
     return FlushFileBuffers(file.Get()) != 0 || !CanFlush(GetLastError());
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/bytes.h"
+#include "platform/secret_bytes.h"
 
 namespace tessaline {
 
@@ -15,12 +16,16 @@ namespace tessaline {
 /// 256 MB.
 [[nodiscard]] Bytes ReadFileBytes(const std::wstring& path);
 
+/// The same for a file that holds a key.
+[[nodiscard]] SecretBytes ReadSecretFile(const std::wstring& path);
+
 /// The first `most` bytes of a file, fewer where it is shorter, none where there is no such file;
 /// null when there may be one that cannot be read.
 [[nodiscard]] std::optional<Bytes> ReadFileStart(const std::wstring& path, std::uint32_t most);
 
-/// Moves a file, with its times, into a folder, which is made where it is missing. Where a file of
-/// that name lies there already, the moved one gets a number: "a (2).gfe". False when it could not
+/// Moves a file, with its times, into a folder, which is made where it is missing. The name has an
+/// extension. Where a file of that name lies there already, the moved one gets a number:
+/// "a (2).gfe". False when it could not
 /// be moved and is still in its place.
 [[nodiscard]] bool MoveFileAside(const std::wstring& path, const std::wstring& folder);
 
