@@ -26,7 +26,7 @@ constexpr ItemList<ServiceLine> kExpectedItems = {&Estimate::Lines, &AppState::l
 constexpr ItemList<SeparateItem> kSeparateItems = {
     &Estimate::SeparateItems, &AppState::separateList, EditSeparateItem, ChangeSeparateItems};
 
-// The element whose row is selected; null when no row is, or one that the record does not have.
+// The element whose row is selected; null when no row is.
 template <typename Element>
 Element* Selected(const ItemList<Element>& items, Estimate& estimate) {
     std::vector<Element>& elements = estimate.*items.elements;
@@ -53,7 +53,7 @@ void Edit(const ItemList<Element>& items) {
     if (selected == nullptr) return;
     items.edit(App()->mainWindow, *selected, [&items](const Element& element) {
         Estimate changed = App()->currentEstimate;
-        if (Element* const target = Selected(items, changed)) *target = element;
+        *Selected(items, changed) = element;
         items.change(std::move(changed));
     });
 }

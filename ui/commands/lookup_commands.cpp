@@ -77,7 +77,7 @@ std::optional<Element> Choose(const LookupKind<Element>& kind) {
         ShowInformation(state.owner, kind.textWhenEmpty().c_str(), kind.captionWhenEmpty);
         return std::nullopt;
     }
-    if (ShowLookup(state, kind.title) != kLookupChosen || state.Selected < 0) return std::nullopt;
+    if (ShowLookup(state, kind.title) != kLookupChosen) return std::nullopt;
     return std::move(elements[static_cast<std::size_t>(state.Selected)]);
 }
 

@@ -29,7 +29,6 @@ LRESULT HandleCanvasMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     switch (message) {
         case WM_COMMAND:
         case WM_NOTIFY:
-            if (App()->mainWindow == nullptr) return 0;
             return SendMessageW(App()->mainWindow, message, wParam, lParam);
         case WM_CTLCOLOREDIT:
             return reinterpret_cast<LRESULT>(

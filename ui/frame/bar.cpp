@@ -97,7 +97,6 @@ LRESULT HandleBarMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam
     switch (message) {
         case WM_COMMAND:
         case WM_NOTIFY:
-            if (App() == nullptr || App()->mainWindow == nullptr) return 0;
             return SendMessageW(App()->mainWindow, message, wParam, lParam);
         case WM_CTLCOLORBTN:
             return ColourButton(CurrentTheme().whiteBrush.Get());
