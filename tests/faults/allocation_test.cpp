@@ -28,11 +28,12 @@ void* operator new(std::size_t size) {
 }
 
 void operator delete(void* memory) noexcept {
+    if (!sought.empty() && memory) LookFor(memory, HeapSize(GetProcessHeap(), 0, memory));
     HeapFree(GetProcessHeap(), 0, memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    HeapFree(GetProcessHeap(), 0, memory);
+    operator delete(memory);
 }
 
 namespace {

@@ -29,6 +29,26 @@ TEST_CASE("A disk without flushing has the file all the same, a failing one does
     }
 }
 
+TEST_CASE("A file that the disk takes only a part of is not written") {
+    static BOOL succeeds = FALSE;
+    const TemporaryStore store;
+    const StandIn write(__imp_WriteFile, [](HANDLE, LPCVOID, DWORD, LPDWORD written, auto) {
+        *written = succeeds ? 1 : 2;
+        return succeeds;
+    });
+    for (const BOOL result : {FALSE, TRUE}) {
+        succeeds = result;
+        CHECK_FALSE(store.Put(L"a", Bytes(2)));
+    }
+}
+
+TEST_CASE("A file of more than 256 MB is not read") {
+    const TemporaryStore store;
+    store.Put(L"a", Bytes{1});
+    std::filesystem::resize_file(store.Path(L"a"), 256 * 1024 * 1024 + 1);
+    CHECK(ReadFileBytes(store.Path(L"a")).empty());
+}
+
 TEST_CASE("A file that others have open is read and replaced all the same") {
     const TemporaryStore store;
     store.Put(L"a", Bytes{1});

@@ -5,6 +5,7 @@
 #include "platform/handles.h"
 #include "platform/secret_bytes.h"
 #include "tests/support/readable.h"
+#include "tests/support/stand_in.h"
 
 using namespace tessaline;
 
@@ -34,6 +35,17 @@ TEST_CASE("An owner ends what it holds once, whoever holds it last") {
         third.Reset();
     }
     CHECK(ended == "213");
+}
+
+TEST_CASE("A window's device context is given back") {
+    static HDC released = nullptr;
+    const StandIn get(__imp_GetDC, [](HWND) { return HDC(&released); });
+    const StandIn release(__imp_ReleaseDC, [](HWND, HDC context) {
+        released = context;
+        return 1;
+    });
+    CHECK(WindowDeviceContext(nullptr).Get() == HDC(&released));
+    CHECK(released == HDC(&released));
 }
 
 TEST_CASE("Memory is wiped, and nothing beside it") {

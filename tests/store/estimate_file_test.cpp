@@ -2,6 +2,7 @@
 
 #include "model/dates.h"
 #include "tests/support/record_values.h"
+#include "tests/support/stand_in.h"
 #include "tests/support/temporary_store.h"
 
 using namespace tessaline;
@@ -80,6 +81,28 @@ TEST_CASE(
         CHECK(save());
     }
     CHECK_FALSE(std::filesystem::exists(aside + L"\\GFE-1 (4).gfe"));
+}
+
+template <typename Description>
+BOOL WINAPI Refuse(DATA_BLOB*, Description, DATA_BLOB*, PVOID, CRYPTPROTECT_PROMPTSTRUCT*, DWORD,
+                   DATA_BLOB*) {
+    SetLastError(0xE1234567);
+    return FALSE;
+}
+
+TEST_CASE("What Windows does not protect is not saved, and what it does not open is not loaded") {
+    const TemporaryStore store;
+    REQUIRE(store.PutEstimate(L"a.gfe", DistinctEstimate()));
+    const StandIn protect(__imp_CryptProtectData, Refuse<LPCWSTR>);
+    const StandIn unprotect(__imp_CryptUnprotectData, Refuse<LPWSTR*>);
+    Estimate estimate;
+    std::wstring path, error;
+    CHECK_FALSE(SaveEstimate(store, estimate, path, error));
+    CHECK(error == L"Could not protect local estimate data: Unknown error");
+    CHECK_FALSE(LoadEstimateFile(store, store.Path(L"a.gfe"), estimate, error));
+    CHECK(error == L"Could not decrypt this estimate for the current Windows user: Unknown error");
+    CHECK(std::filesystem::remove(store.Path(L"a.gfe")));
+    CHECK(std::filesystem::is_empty(store.EstimatesFolder));
 }
 
 TEST_CASE("Each file that is no estimate has its message") {

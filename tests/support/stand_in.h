@@ -5,8 +5,9 @@
 #include <windows.h>
 
 #include <commdlg.h>
-#include <wincrypt.h>
+#include <dpapi.h>
 
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -22,12 +23,17 @@ extern decltype(&EndPage) __imp_EndPage;
 extern decltype(&FillRect) __imp_FillRect;
 extern decltype(&FindFirstFileW) __imp_FindFirstFileW;
 extern decltype(&FlushFileBuffers) __imp_FlushFileBuffers;
+extern decltype(&GetDC) __imp_GetDC;
 extern decltype(&GetDeviceCaps) __imp_GetDeviceCaps;
 extern decltype(&GetMonitorInfoW) __imp_GetMonitorInfoW;
+extern decltype(&LocalFree) __imp_LocalFree;
 extern decltype(&PrintDlgW) __imp_PrintDlgW;
 extern decltype(&Rectangle) __imp_Rectangle;
+extern decltype(&ReleaseDC) __imp_ReleaseDC;
+extern decltype(&SetTimer) __imp_SetTimer;
 extern decltype(&StartDocW) __imp_StartDocW;
 extern decltype(&StartPage) __imp_StartPage;
+extern decltype(&WriteFile) __imp_WriteFile;
 }
 
 namespace tessaline {
@@ -59,6 +65,16 @@ class StandIn {
 /// When this reaches 0, that allocation fails (see the operator new of allocation_test.cpp). At 0,
 /// nothing counts and nothing fails; a 0 that stands in is for a test's own allocations.
 inline long long allocationsLeft = 0;
+
+/// Bytes that no memory may hold when it is given back (see the operator delete there), and how
+/// often some did.
+inline std::string_view sought;
+inline int timesFound = 0;
+
+inline void LookFor(const void* memory, std::size_t size) {
+    const std::string_view bytes(static_cast<const char*>(memory), size);
+    if (!sought.empty() && bytes.find(sought) != bytes.npos) ++timesFound;
+}
 
 struct PrintJobs {
     int begun, ended, aborted;

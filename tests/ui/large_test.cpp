@@ -9,11 +9,12 @@
 #include "document/preview.h"
 #include "tests/support/record_values.h"
 #include "tests/ui/running_program.h"
+#include "ui/control_ids.h"
 #include "ui/form/binding.h"
 
 using namespace tessaline;
 
-TEST_CASE("Texts of a million characters come back from the form, are drawn, and are let go of") {
+TEST_CASE("Texts of a million characters come back, are drawn, and are let go of again") {
     RunningProgram program(96);
     Estimate estimate;
     estimate.Patient.FirstName = estimate.ProviderNotes = std::wstring(1'000'000, L'x');
@@ -32,10 +33,15 @@ TEST_CASE("Texts of a million characters come back from the form, are drawn, and
         GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
         return counters.PagefileUsage;
     };
-    const SIZE_T before = memoryInUse();
+    SIZE_T before = 0;
+    REQUIRE(program.store.PutEstimate(L"a.gfe", estimate));
+    program.LeaveTo([](HWND lookup) { SendMessageW(lookup, WM_CLOSE, 0, 0); });
     for (int i = 0; i < 10; ++i) {
+        SendMessageW(ControlById(kOpenButton), BM_CLICK, 0, 0);
         ShowPrintPreview(program.app.mainWindow, estimate);
         program.CloseOutput();
+        // Windows keeps some of what the first round took.
+        if (i == 0) before = memoryInUse();
     }
     CHECK(memoryInUse() < before + 10'000'000);
 }

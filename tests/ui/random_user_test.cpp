@@ -22,9 +22,6 @@ extern decltype(&CreateFontW) __imp_CreateFontW;
 extern decltype(&CreatePen) __imp_CreatePen;
 extern decltype(&CreateSolidBrush) __imp_CreateSolidBrush;
 extern decltype(&DeleteObject) __imp_DeleteObject;
-extern decltype(&GetDC) __imp_GetDC;
-extern decltype(&ReleaseDC) __imp_ReleaseDC;
-extern decltype(&WriteFile) __imp_WriteFile;
 }
 
 using namespace tessaline;

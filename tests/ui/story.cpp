@@ -34,6 +34,7 @@ namespace {
 // What is different in Windows while a story is played, and what it notices.
 struct {
     bool hasPrinter = false;
+    bool isExhausted = false;  // when a folder is searched
     std::wstring searches;
     HDC paper = nullptr;
 } windows;
@@ -48,6 +49,7 @@ BOOL WINAPI ChoosePrinter(LPPRINTDLGW dialog) {
 
 HANDLE WINAPI SearchFolder(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
     windows.searches += IsWaiting() ? L"waiting " : L"unnoticed ";
+    if (windows.isExhausted) throw std::bad_alloc();
     return FindFirstFileExW(pattern, FindExInfoStandard, found, FindExSearchNameMatch, nullptr, 0);
 }
 
@@ -382,6 +384,8 @@ void CheckColours(Story& s) {
     CHECK(told.str() == s.text);
 }
 
+constexpr COLORREF kStain = RGB(1, 2, 3);
+
 // clang-format off
 using Verb = void (*)(Story&);
 const std::map<std::wstring, Verb> kVerbs = {
@@ -404,6 +408,7 @@ const std::map<std::wstring, Verb> kVerbs = {
         CHECK(SetValue(estimate, s.first, s.text));
         s.Bind(estimate); }},
     {L"printer", [](Story&) { windows.hasPrinter = true; }},
+    {L"exhaust", [](Story&) { windows.isExhausted = true; }},
     {L"put", [](Story& s) {
         ReadForm();
         s.app.currentEstimate.LastModifiedOn = s.Number();
@@ -435,6 +440,7 @@ const std::map<std::wstring, Verb> kVerbs = {
 // Those that are about one window, whose name comes first.
 const std::map<std::wstring, Verb> kVerbsOfWindows = {
     {L"press", Press}, {L"add", Add},
+    {L"queue", [](Story& s) { PostMessageW(s.target, BM_CLICK, 0, 0); }},
     {L"drag", [](Story& s) { DragThumb(s); CheckScrolled(s); }},
     {L"colours", CheckColours}, {L"paints", CheckPainting},
     {L"choose", [](Story& s) { CheckKind(s, L"ComboBox"); s.Send(WM_KEYDOWN, VK_DOWN); }},
@@ -468,9 +474,13 @@ const std::map<std::wstring, Verb> kVerbsOfWindows = {
         CHECK(Told(Unscale(place.right)) + L" " + Told(Unscale(place.bottom)) == s.text); }},
     {L"rows", [](Story& s) { CHECK(Cells(s.target) == s.text); }},
     {L"looks", [](Story& s) { CheckPicture(s.target, s.text.empty() ? s.first : s.text); }},
+    // Also with a stain on it, in a corner without controls, which a new drawing covers.
     {L"drawn", [](Story& s) {
+        SetPixel(WindowDeviceContext(s.target).Get(), 2, 2, kStain);
         RedrawWindow(s.target, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN); }},
-    {L"redraws", [](Story& s) { CHECK(GetUpdateRect(s.target, nullptr, FALSE)); }},
+    {L"redraws", [](Story& s) {
+        UpdateWindow(s.target);
+        CHECK(GetPixel(WindowDeviceContext(s.target).Get(), 2, 2) != kStain); }},
     {L"still", [](Story& s) { CHECK_FALSE(GetUpdateRect(s.target, nullptr, FALSE)); }},
     {L"focus", [](Story& s) { CHECK(GetFocus() == s.target); }},
     {L"enabled", [](Story& s) { CHECK(Told(IsWindowEnabled(s.target) != 0) == s.text); }},
