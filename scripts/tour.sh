@@ -255,7 +255,7 @@ open_again() {
   choose '^Open Saved' -r1 19-open-search
   picture 20-opened
   bar 112 35
-  choose '^Open Saved' 20240229 21-older-edition-search
+  choose '^Open Saved' 'NAME É' 21-older-edition-search
   reach 903
   picture 22-older-edition-opened
 }
