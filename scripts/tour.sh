@@ -255,7 +255,9 @@ open_again() {
   choose '^Open Saved' -r1 19-open-search
   picture 20-opened
   bar 112 35
-  choose '^Open Saved' 'NAME É' 21-older-edition-search
+  # A keyboard with this letter: what xdotool makes up for others does not reach Wine.
+  setxkbmap us altgr-intl
+  choose '^Open Saved' 'RÉFECTION' 21-older-edition-search
   reach 903
   picture 22-older-edition-opened
 }

@@ -11,7 +11,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 
 #include "legacy/legacy_cipher.h"
@@ -87,15 +86,6 @@ void Compare(const char* name, double aim, int rounds, const Runner& ours, const
     Report(name, "ms", aim, results[0], results[1]);
 }
 
-// Takes the place of the platform's own protection, which would hide what is ours.
-template <typename Description>
-BOOL WINAPI Copy(DATA_BLOB* from, Description, DATA_BLOB*, PVOID, CRYPTPROTECT_PROMPTSTRUCT*,
-                 DWORD, DATA_BLOB* to) {
-    *to = {from->cbData, static_cast<BYTE*>(LocalAlloc(LMEM_FIXED, from->cbData))};
-    std::memcpy(to->pbData, from->pbData, from->cbData);
-    return TRUE;
-}
-
 Estimate SampleWith(std::size_t lines, int number = 0) {
     Estimate estimate = SampleEstimate();
     estimate.Lines.resize(lines, ServiceLine(estimate.Lines[0]));
@@ -125,7 +115,7 @@ void BareCatalogue() {
                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         DATA_BLOB read{0, room}, copy{};
         Demand(ReadFile(file.Get(), room, sizeof(room), &read.cbData, nullptr));
-        Copy(&read, nullptr, nullptr, nullptr, nullptr, 0, &copy);
+        CopyBlob(&read, nullptr, nullptr, nullptr, nullptr, 0, &copy);
         LocalFree(copy.pbData);
     } while (FindNextFileW(search.Get(), &found));
 }
@@ -312,8 +302,8 @@ int wmain(int count, wchar_t** arguments) {
                                                        {L"form", MeasureForm},
                                                        {L"start", MeasureStart}};
     Demand(count == 3 && groups.contains(arguments[1]));
-    Write(__imp_CryptProtectData, Copy<LPCWSTR>);
-    Write(__imp_CryptUnprotectData, Copy<LPWSTR*>);
+    Write(__imp_CryptProtectData, CopyBlob<LPCWSTR>);
+    Write(__imp_CryptUnprotectData, CopyBlob<LPWSTR*>);
     InitCommonControls();
     SetScreenDpi(96);
     CreateTheme();

@@ -51,7 +51,8 @@ class Recording {
     template <typename Draw>
     explicit Recording(const Draw& draw, const PageTransform& units = kOffset) : units_(units) {
         const StandIn self(current_, this);
-        const StandIn text(__imp_DrawTextW, Text), fill(__imp_FillRect, Fill);
+        const StandIn text(__imp_DrawTextW, Text);
+        const StandIn fill(__imp_FillRect, Fill);
         const StandIn frame(__imp_Rectangle, Frame);
         const DeviceContextOwner memory(CreateCompatibleDC(nullptr));
         const auto selection = [dc = memory.Get()] {

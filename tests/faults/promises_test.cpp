@@ -75,7 +75,7 @@ TEST_CASE("No memory is given back with something secret in it") {
     alignas(DocumentMemory) static std::array<char, sizeof(DocumentMemory)> place;
     CHECK(timesGivenBack(kNotes, [] {
               auto* const memory = new (place.data()) DocumentMemory;
-              for (const std::size_t size : {1000, 1'000'000}) {
+              for (const std::size_t size : {1'000U, 1'000'000U}) {
                   std::memset(memory->Get()->allocate(size), 'x', size);
               }
               LookFor(place.data(), place.size());

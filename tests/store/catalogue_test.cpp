@@ -1,11 +1,6 @@
 #include "store/catalogue.h"
 
-#include <windows.h>
-
-#include <dpapi.h>
-
 #include <cstdio>
-#include <cstring>
 #include <random>
 
 #include "store/lookup_rows.h"
@@ -13,10 +8,6 @@
 #include "tests/support/record_values.h"
 #include "tests/support/stand_in.h"
 #include "tests/support/temporary_store.h"
-
-extern "C" {
-extern decltype(&CryptUnprotectData) __imp_CryptUnprotectData;
-}
 
 using namespace tessaline;
 
@@ -96,13 +87,7 @@ TEST_CASE("A damaged file is one row of each list at most, and all others are as
     const unsigned rounds = Setting(L"TESSALINE_ROUNDS", 300);
     std::printf("TESSALINE_SEED=%u TESSALINE_ROUNDS=%u\n", seed, rounds);
     std::fflush(stdout);
-    // Windows would refuse a damaged file before our reader sees it.
-    const auto copy = [](DATA_BLOB* from, auto, auto, auto, auto, auto, DATA_BLOB* to) {
-        *to = {from->cbData, static_cast<BYTE*>(LocalAlloc(LMEM_FIXED, from->cbData))};
-        std::memcpy(to->pbData, from->pbData, from->cbData);
-        return TRUE;
-    };
-    const StandIn opened(__imp_CryptUnprotectData, copy);
+    const StandIn opened(__imp_CryptUnprotectData, CopyBlob<LPWSTR*>);
     const StandIn quick(__imp_FlushFileBuffers, [](HANDLE) { return TRUE; });
     const TemporaryStore store;
     std::map<std::wstring, Bytes> files{{L"older.gfe", TestData(L"legacy-estimate.gfe")},

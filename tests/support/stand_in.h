@@ -7,6 +7,7 @@
 #include <commdlg.h>
 #include <dpapi.h>
 
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -42,7 +43,7 @@ namespace tessaline {
 template <typename Value>
 void Write(Value& place, std::type_identity_t<Value> value) {
     DWORD before = 0;
-    VirtualProtect(&place, sizeof(place), PAGE_READWRITE, &before);
+    VirtualProtect(&place, sizeof(Value), PAGE_READWRITE, &before);
     place = value;
 }
 
@@ -61,6 +62,16 @@ class StandIn {
     Value& place_;
     Value before_;
 };
+
+/// Takes the place of Windows' data protection, whose own share of the time, and whose refusal of
+/// what was damaged, would hide what is ours.
+template <typename Description>
+BOOL WINAPI CopyBlob(DATA_BLOB* from, Description, DATA_BLOB*, PVOID, CRYPTPROTECT_PROMPTSTRUCT*,
+                     DWORD, DATA_BLOB* to) {
+    *to = {from->cbData, static_cast<BYTE*>(LocalAlloc(LMEM_FIXED, from->cbData))};
+    std::memcpy(to->pbData, from->pbData, from->cbData);
+    return TRUE;
+}
 
 /// When this reaches 0, that allocation fails (see the operator new of allocation_test.cpp). At 0,
 /// nothing counts and nothing fails; a 0 that stands in is for a test's own allocations.
