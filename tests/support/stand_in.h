@@ -43,6 +43,7 @@ namespace tessaline {
 template <typename Value>
 void Write(Value& place, std::type_identity_t<Value> value) {
     DWORD before = 0;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): of the pointer itself, where it is one.
     VirtualProtect(&place, sizeof(Value), PAGE_READWRITE, &before);
     place = value;
 }
