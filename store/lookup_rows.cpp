@@ -51,13 +51,9 @@ constexpr auto kPatientColumns = ColumnsOf(kPatientTable);
 constexpr auto kProviderColumns = ColumnsOf(kProviderTable);
 constexpr auto kEstimateColumns = ColumnsOf(kEstimateTable);
 
-// The fields that a search looks in, with single blanks between them. Each text is allocated once:
-// allocating takes most of the time that ten thousand rows take.
-std::wstring SearchText(std::initializer_list<std::wstring_view> fields) {
-    std::size_t length = 0;
-    for (const std::wstring_view field : fields) length += field.size() + 1;
+// The fields that a search looks in, with single blanks between them, in lower case.
+std::wstring Joined(std::initializer_list<std::wstring_view> fields) {
     std::wstring text;
-    text.reserve(length);
     for (const std::wstring_view field : fields) {
         text += field;
         text += L' ';
@@ -66,50 +62,35 @@ std::wstring SearchText(std::initializer_list<std::wstring_view> fields) {
     return ToLower(std::move(text));
 }
 
-LookupRow MakeRow(const PatientSummary& summary) {
-    const PatientInfo& patient = summary.Patient;
-    LookupRow row{CellsOf(kPatientTable, summary), {}};
-    const std::wstring& name = row.cells[0];
-    row.searchText = SearchText({name, patient.DateOfBirth, patient.Phone, patient.Email});
-    return row;
-}
-
-LookupRow MakeRow(const ProviderSummary& summary) {
-    const ProviderInfo& provider = summary.Provider;
-    return {CellsOf(kProviderTable, summary),
-            SearchText({provider.OrganizationName, provider.Npi, provider.Phone, provider.Email,
-                        provider.City})};
-}
-
-LookupRow MakeRow(const SavedEstimateEntry& entry) {
-    const Estimate& estimate = entry.Record;
-    LookupRow row{CellsOf(kEstimateTable, entry), {}};
-    const std::wstring& name = row.cells[1];
-    row.searchText =
-        SearchText({estimate.EstimateId, name, estimate.PrimaryService, estimate.EstimateStatus});
-    return row;
-}
-
-template <typename Element>
-LookupRows MakeRows(const std::vector<Element>& elements) {
-    LookupRows rows;
-    rows.reserve(elements.size());
-    for (const Element& element : elements) rows.push_back(MakeRow(element));
-    return rows;
-}
-
 }  // namespace
 
-LookupRows MakeLookupRows(const std::vector<PatientSummary>& patients) {
-    return MakeRows(patients);
+std::vector<std::wstring> LookupCells(const PatientSummary& summary) {
+    return CellsOf(kPatientTable, summary);
 }
 
-LookupRows MakeLookupRows(const std::vector<ProviderSummary>& providers) {
-    return MakeRows(providers);
+std::vector<std::wstring> LookupCells(const ProviderSummary& summary) {
+    return CellsOf(kProviderTable, summary);
 }
 
-LookupRows MakeLookupRows(const std::vector<SavedEstimateEntry>& estimates) {
-    return MakeRows(estimates);
+std::vector<std::wstring> LookupCells(const SavedEstimateEntry& entry) {
+    return CellsOf(kEstimateTable, entry);
+}
+
+std::wstring SearchText(const PatientSummary& summary) {
+    const PatientInfo& patient = summary.Patient;
+    return Joined({JoinName(patient), patient.DateOfBirth, patient.Phone, patient.Email});
+}
+
+std::wstring SearchText(const ProviderSummary& summary) {
+    const ProviderInfo& provider = summary.Provider;
+    return Joined(
+        {provider.OrganizationName, provider.Npi, provider.Phone, provider.Email, provider.City});
+}
+
+std::wstring SearchText(const SavedEstimateEntry& entry) {
+    const Estimate& estimate = entry.Record;
+    return Joined({estimate.EstimateId, JoinName(estimate.Patient), estimate.PrimaryService,
+                   estimate.EstimateStatus});
 }
 
 std::span<const ListColumn> PatientColumns() {

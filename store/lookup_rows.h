@@ -10,17 +10,16 @@
 
 namespace tessaline {
 
-/// One row, in the order of the list that it was made from.
-struct LookupRow {
-    std::vector<std::wstring> cells;
-    std::wstring searchText;  ///< in lower case
-};
+/// What an element shows, one text for each column. Made anew for every row that is shown: keeping
+/// ten thousand rows takes longer than making them.
+[[nodiscard]] std::vector<std::wstring> LookupCells(const PatientSummary& summary);
+[[nodiscard]] std::vector<std::wstring> LookupCells(const ProviderSummary& summary);
+[[nodiscard]] std::vector<std::wstring> LookupCells(const SavedEstimateEntry& entry);
 
-using LookupRows = std::vector<LookupRow>;
-
-[[nodiscard]] LookupRows MakeLookupRows(const std::vector<PatientSummary>& patients);
-[[nodiscard]] LookupRows MakeLookupRows(const std::vector<ProviderSummary>& providers);
-[[nodiscard]] LookupRows MakeLookupRows(const std::vector<SavedEstimateEntry>& estimates);
+/// What a search finds an element by, in lower case.
+[[nodiscard]] std::wstring SearchText(const PatientSummary& summary);
+[[nodiscard]] std::wstring SearchText(const ProviderSummary& summary);
+[[nodiscard]] std::wstring SearchText(const SavedEstimateEntry& entry);
 
 /// The columns of each kind of list.
 [[nodiscard]] std::span<const ListColumn> PatientColumns();

@@ -26,17 +26,29 @@ struct ModeRow {
     const wchar_t* confirmText;
     int confirmWidth;
     std::span<const ListColumn> (*columns)();
-    LookupRows (*makeRows)(const LookupState&);
+    // Of the mode's list: its length, and what stands for an element.
+    std::size_t (*count)(const LookupState&);
+    std::vector<std::wstring> (*cells)(const LookupState&, std::size_t index);
+    std::wstring (*searchText)(const LookupState&, std::size_t index);
 };
 
+template <auto list>
+constexpr ModeRow Mode(const wchar_t* confirmText, int confirmWidth,
+                       std::span<const ListColumn> (*columns)()) {
+    return {
+        confirmText,
+        confirmWidth,
+        columns,
+        [](const LookupState& state) { return (state.*list).size(); },
+        [](const LookupState& state, std::size_t at) { return LookupCells((state.*list)[at]); },
+        [](const LookupState& state, std::size_t at) { return SearchText((state.*list)[at]); }};
+}
+
 // By LookupMode.
-const ModeRow kModes[] = {
-    {L"Use Selected Patient", 170, PatientColumns,
-     [](const LookupState& state) { return MakeLookupRows(state.patients); }},
-    {L"Use Selected Provider", 170, ProviderColumns,
-     [](const LookupState& state) { return MakeLookupRows(state.providers); }},
-    {L"Open Selected", 130, EstimateColumns,
-     [](const LookupState& state) { return MakeLookupRows(state.estimates); }},
+constexpr ModeRow kModes[] = {
+    Mode<&LookupState::patients>(L"Use Selected Patient", 170, PatientColumns),
+    Mode<&LookupState::providers>(L"Use Selected Provider", 170, ProviderColumns),
+    Mode<&LookupState::estimates>(L"Open Selected", 130, EstimateColumns),
 };
 
 const ModeRow& ModeOf(const LookupState& state) {
@@ -46,7 +58,6 @@ const ModeRow& ModeOf(const LookupState& state) {
 void BuildControls(HWND window, LookupState& state) {
     const ModeRow& mode = ModeOf(state);
     state.window = window;
-    state.rows = mode.makeRows(state);
     MakeLabel(window, L"Search", {20, 18, 90, 18});
     state.searchBox = MakeEdit(window, kSearchBox, {20, 38, 760, 25});
     state.list = MakeListView(window, kList, {20, 76, 760, 340}, mode.columns());
@@ -105,15 +116,19 @@ int ShowLookup(LookupState& state, const wchar_t* title) {
     return chosen ? kLookupChosen : kLookupCancelled;
 }
 
-void FillLookupList(const LookupState& state) {
+void FillLookupList(LookupState& state) {
+    const ModeRow& mode = ModeOf(state);
     const std::wstring wanted = ToLower(Trim(WindowText(state.searchBox)));
-    ListFill fill(state.list, state.rows.size());
-    LPARAM index = 0;
-    for (const LookupRow& row : state.rows) {
-        if (row.searchText.find(wanted) != std::wstring::npos) {
-            fill.Append(index, row.cells);
+    const std::size_t count = mode.count(state);
+    if (!wanted.empty()) {
+        while (state.searchTexts.size() < count) {
+            state.searchTexts.push_back(mode.searchText(state, state.searchTexts.size()));
         }
-        ++index;
+    }
+    ListFill fill(state.list, count);
+    for (std::size_t at = 0; at < count; ++at) {
+        if (!wanted.empty() && state.searchTexts[at].find(wanted) == std::wstring::npos) continue;
+        fill.Append(static_cast<LPARAM>(at), mode.cells(state, at));
     }
 }
 

@@ -23,7 +23,8 @@ struct LookupState : ModalState {
     std::vector<PatientSummary> patients;
     std::vector<ProviderSummary> providers;
     std::vector<SavedEstimateEntry> estimates;
-    LookupRows rows;    ///< made from the mode's list when the window is made
+    /// Of the mode's list, made when the user first searches.
+    std::vector<std::wstring> searchTexts;
     int Selected = -1;  ///< index of the chosen element in the mode's list
 };
 
@@ -35,6 +36,6 @@ inline constexpr int kLookupCancelled = 2;
 [[nodiscard]] int ShowLookup(LookupState& state, const wchar_t* title);
 
 /// Shows the rows that contain the search box's text, in the order of the full list.
-void FillLookupList(const LookupState& state);
+void FillLookupList(LookupState& state);
 
 }  // namespace tessaline

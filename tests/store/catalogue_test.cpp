@@ -28,11 +28,9 @@ Bytes Damaged(const Bytes& whole, std::mt19937& random) {
 // the number after the largest is the smallest.
 std::pair<std::multiset<RowCells>, std::uint32_t> Look(const LocalStore& store) {
     std::multiset<RowCells> rows;
-    for (const auto& list :
-         {MakeLookupRows(LoadAllEstimates(store)), MakeLookupRows(BuildPatientList(store)),
-          MakeLookupRows(BuildProviderList(store))}) {
-        for (const LookupRow& row : list) rows.insert(row.cells);
-    }
+    for (const auto& entry : LoadAllEstimates(store)) rows.insert(LookupCells(entry));
+    for (const auto& patient : BuildPatientList(store)) rows.insert(LookupCells(patient));
+    for (const auto& provider : BuildProviderList(store)) rows.insert(LookupCells(provider));
     return {rows, MakeRevision(store, RecordWith(L"EstimateId: root")).RevisionNumber};
 }
 
