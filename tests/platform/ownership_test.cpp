@@ -1,9 +1,7 @@
-// What owns handles and secrets ends them.
-#include <array>
+// What owns handles ends them.
 #include <utility>
 
 #include "platform/handles.h"
-#include "platform/secret_bytes.h"
 #include "tests/support/readable.h"
 #include "tests/support/stand_in.h"
 
@@ -46,11 +44,4 @@ TEST_CASE("A window's device context is given back") {
     });
     CHECK(WindowDeviceContext(nullptr).Get() == HDC(&released));
     CHECK(released == HDC(&released));
-}
-
-TEST_CASE("Memory is wiped, and nothing beside it") {
-    std::array<std::uint8_t, 4> memory = {1, 2, 3, 4};
-    WipeMemory(memory.data() + 1, 2);
-    CHECK(memory == std::array<std::uint8_t, 4>{1, 0, 0, 4});
-    WipeMemory(nullptr, 0);
 }

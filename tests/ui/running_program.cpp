@@ -94,14 +94,10 @@ RunningProgram::RunningProgram(int dpi) {
 
 RunningProgram::~RunningProgram() {
     // An idle program has no file open.
-    std::error_code none;
-    for (const auto& file :
-         std::filesystem::recursive_directory_iterator(store.BaseFolder, none)) {
-        if (!file.is_regular_file()) continue;
-        const FileOwner alone(CreateFileW(file.path().c_str(), GENERIC_READ, 0, nullptr,
-                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-        CHECK(alone.Get() != INVALID_HANDLE_VALUE);
-    }
+    ForEachFile(store.EstimatesFolder, L"*", [this](const std::wstring& name) {
+        CHECK(store.Lock(name).Get() != INVALID_HANDLE_VALUE);
+        return true;
+    });
     if (IsWindow(app.mainWindow)) {
         CHECK(KillTimer(app.mainWindow, 1));  // the automatic save's
         DestroyWindow(app.mainWindow);
