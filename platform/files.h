@@ -25,8 +25,7 @@ namespace tessaline {
 
 /// Moves a file, with its times, into a folder, which is made where it is missing. The name has an
 /// extension. Where a file of that name lies there already, the moved one gets a number:
-/// "a (2).gfe". False when it could not
-/// be moved and is still in its place.
+/// "a (2).gfe". False when it could not be moved and is still in its place.
 [[nodiscard]] bool MoveFileAside(const std::wstring& path, const std::wstring& folder);
 
 /// Replaces the content of a file, creating it and the folders above it where they are missing.
