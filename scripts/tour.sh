@@ -3,6 +3,8 @@
 # and the printed PDF: scripts/tour.sh TESSALINE.EXE FOLDER. Needs a display of 1920 x 1080 without a
 # window manager and a Wine prefix; empties that prefix's estimates.
 set -euo pipefail
+# For the letters beyond ASCII that are typed.
+export LC_ALL=C.UTF-8
 here=$(cd "$(dirname "$0")" && pwd)
 prefix=${WINEPREFIX:?a Wine prefix}
 . "$here/desktop.sh"

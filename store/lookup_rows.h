@@ -10,8 +10,7 @@
 
 namespace tessaline {
 
-/// What an element shows, one text for each column. Made anew for every row that is shown: keeping
-/// ten thousand rows takes longer than making them.
+/// What an element shows, one text for each column.
 [[nodiscard]] std::vector<std::wstring> LookupCells(const PatientSummary& summary);
 [[nodiscard]] std::vector<std::wstring> LookupCells(const ProviderSummary& summary);
 [[nodiscard]] std::vector<std::wstring> LookupCells(const SavedEstimateEntry& entry);

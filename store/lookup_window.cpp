@@ -3,6 +3,9 @@
 #include <commctrl.h>
 
 #include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "model/text.h"
 #include "platform/controls.h"
@@ -125,11 +128,15 @@ void FillLookupList(LookupState& state) {
             state.searchTexts.push_back(mode.searchText(state, state.searchTexts.size()));
         }
     }
-    ListFill fill(state.list, count);
+    // All of them before the list changes: when memory runs out, no row may be missing unseen.
+    std::vector<std::pair<std::size_t, std::vector<std::wstring>>> rows;
+    rows.reserve(count);
     for (std::size_t at = 0; at < count; ++at) {
         if (!wanted.empty() && state.searchTexts[at].find(wanted) == std::wstring::npos) continue;
-        fill.Append(static_cast<LPARAM>(at), mode.cells(state, at));
+        rows.emplace_back(at, mode.cells(state, at));
     }
+    ListFill fill(state.list, rows.size());
+    for (const auto& [at, cells] : rows) fill.Append(static_cast<LPARAM>(at), cells);
 }
 
 }  // namespace tessaline
