@@ -17,13 +17,13 @@ cmake --build --preset release --target Tessaline bench bare_windows
 trap 'stop_desktop; rm -rf build/bench-scratch' EXIT
 start_display
 use_prefix "$PWD/build/wine-bench"
-rm -rf build/bench-scratch
-mkdir build/bench-scratch
 
 rows=build/bench.tsv
 : >$rows
 # Each group in a process of its own, so that none finds the heap as another left it.
 for group in "${groups[@]}"; do
+  rm -rf build/bench-scratch
+  mkdir build/bench-scratch
   wine build/release/bench.exe "$group" "Z:$PWD/build/bench-scratch" >>$rows 2>build/bench.log ||
     { echo "The group $group failed." >&2; exit 1; }
 done

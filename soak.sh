@@ -26,7 +26,7 @@ failed=0
 
 # A part's name, the lines of its output that are its figures, and its command.
 part() {
-  local name=$1 figures=$2 log=build/soak/$1.log start=$SECONDS outcome=passed
+  local name=$1 figures=$2 log=build/soak/$1${TESSALINE_SEED:+-$TESSALINE_SEED}.log start=$SECONDS outcome=passed
   shift 2
   [[ " $parts " == *" $name "* ]] || return 0
   "$@" >"$log" 2>&1 || { outcome="failed: see $log"; failed=1; }

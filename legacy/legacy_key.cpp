@@ -50,7 +50,8 @@ std::vector<std::wstring_view> NormalSegments(std::wstring_view path, bool hasRo
 }
 
 // The path in lexically normal form, as the standard library defines it for Windows (mingw-w64's
-// knows no "\\server"), for a folder that does not end in a separator, "." or "..".
+// knows no "\\server"), for a folder that does not begin with three separators and does not end in
+// a separator, "." or "..".
 std::wstring NormalFolder(const std::wstring& folder) {
     std::wstring_view rest = folder;
     const std::size_t rootNameEnd = RootNameEnd(rest);

@@ -61,13 +61,16 @@ ListFill::~ListFill() {
 
 void ListFill::Append(LPARAM data, std::span<const std::wstring> cells) {
     LVITEMW item{};
-    item.iItem = rows_++;
+    item.iItem = rows_;
     item.lParam = data;
     for (const std::wstring& cell : cells) {
         item.pszText = const_cast<wchar_t*>(cell.c_str());  // only read
         if (item.iSubItem == 0) {
             item.mask = LVIF_TEXT | LVIF_PARAM;
-            SendMessageW(list_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+            const LRESULT row =
+                SendMessageW(list_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+            if (row < 0) return;  // Windows has no memory for it
+            ++rows_;
         } else {
             item.mask = LVIF_TEXT;
             SendMessageW(list_, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
